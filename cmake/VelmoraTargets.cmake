@@ -1,0 +1,52 @@
+# SPDX-FileCopyrightText: 2026 The Velmora developers
+# SPDX-License-Identifier: MIT
+
+get_filename_component(VELMORA_ROOT ${CMAKE_CURRENT_LIST_DIR} DIRECTORY)
+
+# Flags that every target of the project is built with.
+add_library(velmora-flags INTERFACE)
+target_compile_options(velmora-flags INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
+    -Woverloaded-virtual -Werror)
+target_compile_definitions(velmora-flags INTERFACE
+    QT_NO_CAST_FROM_ASCII
+    QT_NO_CAST_TO_ASCII
+    QT_NO_CAST_FROM_BYTEARRAY
+    QT_NO_URL_CAST_FROM_STRING
+    QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+    QT_NO_FOREACH
+    QT_STRICT_ITERATORS
+    QT_USE_QSTRINGBUILDER
+    VELMORA_VERSION="${PROJECT_VERSION}")
+if(VELMORA_SANITIZE)
+    target_compile_options(velmora-flags INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(velmora-flags INTERFACE -fsanitize=address,undefined)
+endif()
+
+# velmora_library(NAME SOURCES file... USES target...)
+# One room: a static library that may include from itself and from the rooms it USES.
+# Sources are included by their path below src/, e.g. "link/SimpleCrypt.h".
+function(velmora_library name)
+    cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "SOURCES;USES")
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_include_directories(${name} PUBLIC ${VELMORA_ROOT}/src)
+    target_link_libraries(${name} PUBLIC ${ARG_USES} PRIVATE velmora-flags)
+endfunction()
+
+# velmora_test(NAME [SOURCES file...] USES target... [ADDRESS 127.0.0.N])
+# A Qt Test program whose main source is NAME.cpp. It runs on the offscreen platform with a temporary folder
+# of its own and, if it talks over the network, the loopback address given here, so that tests run side by side.
+function(velmora_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 ARG "" "ADDRESS" "SOURCES;USES")
+    add_executable(${name} ${name}.cpp ${ARG_SOURCES})
+    target_include_directories(${name} PRIVATE ${VELMORA_ROOT}/tests)
+    target_link_libraries(${name} PRIVATE ${ARG_USES} Qt5::Test velmora-flags)
+    target_compile_definitions(${name} PRIVATE VELMORA_TEST_DATA="${VELMORA_ROOT}/tests/data")
+    set(folder ${CMAKE_BINARY_DIR}/tests-tmp/${name})
+    file(MAKE_DIRECTORY ${folder})
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES
+        TIMEOUT 300
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;TMPDIR=${folder};HOME=${folder};LC_ALL=C.UTF-8;LANGUAGE=;VELMORA_TEST_ADDRESS=${ARG_ADDRESS};VELMORA_CONTROL_PANEL_INI=${folder}/control_panel.ini;ASAN_OPTIONS=detect_leaks=1;LSAN_OPTIONS=suppressions=${VELMORA_ROOT}/tests/lsan.supp;UBSAN_OPTIONS=print_stacktrace=1")
+endfunction()
