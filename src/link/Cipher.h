@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Velmora developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace Velmora {
+
+/// The blob of one message. `message` is UTF-8 text and ends at its first NUL.
+[[nodiscard]] QByteArray encrypt(const QByteArray& message);
+
+/// The text of one message; empty if the blob is not whole and genuine.
+[[nodiscard]] QString decrypt(const QByteArray& blob);
+
+/// Base64 text of the enciphered password.
+[[nodiscard]] QString encryptPass(const QString& password);
+
+/// The password; empty if `text` was not made by encryptPass.
+[[nodiscard]] QString decryptPass(const QString& text);
+
+} // namespace Velmora
