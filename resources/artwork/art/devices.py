@@ -4,38 +4,16 @@
 Fenna, Quenta and Lumo are small charcoal desktop units, Cormel is slate blue, Tarvex graphite with a
 teal band, three-phase cabinets light grey."""
 
+from . import cases
 from . import parts as p
-from .svg import GREEN, HAIRLINE, INK, ORANGE, OUTLINE, SLATE, TEAL, WHITE, YELLOW, darker, lighter
-
-CHARCOAL = "#434b54"
-SILVER = "#b4bdc6"
-CORMEL = "#3b5a7a"
-GRAPHITE = "#39424c"
-BLACK = "#1d2227"
-LIGHT = "#cdd4da"
-FACE = "#1f2a35"
-LEAF = "#3aa655"
-
-
-def _start(w, h, d, bottom=176, shift=0):
-    g = p.picture()
-    b = p.box_between(w, h, d, bottom, shift)
-    p.ground(g, b)
-    return g, b
+from .cases import BLACK, CHARCOAL, CORMEL, FACE, GRAPHITE, LEAF, LIGHT, SILVER
+from .svg import GREEN, HAIRLINE, INK, ORANGE, OUTLINE, RED, SLATE, TEAL, WHITE, YELLOW, darker, lighter
 
 
 # Small line-interactive desktop units.
 
-def _desktop(w=58, h=104, d=72, tone=CHARCOAL, rows=5):
-    g, b = _start(w, h, d, bottom=164)
-    p.feet(g, b)
-    p.body(g, b, tone)
-    p.side_vents(g, b, tone, 0.58, rows)
-    return g, b
-
-
 def fennapro():
-    g, b = _desktop(w=54, h=98)
+    g, b = cases.desktop(w=54, h=98)
     cx = b.x + b.w / 2
     p.panel(g, b.x + 7, b.y + 8, b.w - 14, 44, FACE, 4)
     p.leds(g, cx - 10, b.y + 16, [GREEN, YELLOW, ORANGE], 10)
@@ -46,7 +24,7 @@ def fennapro():
 
 
 def fennaiipro():
-    g, b = _desktop(w=52, h=114)
+    g, b = cases.desktop(w=52, h=114)
     p.panel(g, b.x + 6, b.y + 7, b.w - 12, b.h - 14, FACE, 6)
     cx = b.x + b.w / 2
     p.knob(g, cx, b.y + 24, 9, CHARCOAL)
@@ -57,7 +35,7 @@ def fennaiipro():
 
 
 def fenna_avr():
-    g, b = _start(84, 38, 84, bottom=152)
+    g, b = cases.start(84, 38, 84, bottom=152)
     p.feet(g, b)
     p.body(g, b, CHARCOAL)
     p.sockets_on_top(g, b, 2, 4)
@@ -69,7 +47,7 @@ def fenna_avr():
 
 
 def quenta():
-    g, b = _desktop(w=62, h=96)
+    g, b = cases.desktop(w=62, h=96)
     cx, cy = b.x + b.w / 2, b.y + 33
     g.circle(cx, cy, 23, fill=g.linear([(0, lighter(FACE, 0.25)), (1, FACE)]), stroke=INK, stroke_width=HAIRLINE)
     g.circle(cx, cy, 17, fill=p.GLASS, stroke="#0b1118", stroke_width=1)
@@ -84,7 +62,7 @@ def quenta():
 
 
 def lumolcd():
-    g, b = _desktop(w=60, h=106)
+    g, b = cases.desktop(w=60, h=106)
     p.panel(g, b.x + 6, b.y + 7, b.w - 12, 56, FACE, 4)
     p.lcd(g, b.x + 10, b.y + 12, b.w - 20, 30, "bars")
     for i in range(3):
@@ -95,7 +73,7 @@ def lumolcd():
 
 
 def _lumopro(h):
-    g, b = _desktop(w=60, h=h)
+    g, b = cases.desktop(w=60, h=h)
     p.panel(g, b.x + 5, b.y + 6, b.w - 10, 62, SILVER, 5)
     p.lcd(g, b.x + 10, b.y + 11, b.w - 20, 24, "wave")
     p.knob(g, b.x + b.w / 2, b.y + 52, 9, CHARCOAL)
@@ -120,22 +98,8 @@ def lumopro_avr():
 
 # Rack units.
 
-def _rack(h, tone, bottom=None, d=66):
-    """A unit with mounting ears; `h` of 14 per height unit."""
-    g, b = _start(86, h, d, bottom=bottom or 122 + h / 2)
-    p.body(g, b, tone)
-    g.open_group(transform=b.top_plane())
-    for row in range(2):
-        for i in range(9):
-            g.rect(b.w * 0.12 + i * b.w * 0.088, b.d * (0.56 + row * 0.16), 2.4, 6, 1, fill=darker(tone, 0.55))
-    g.line(0, b.d * 0.34, b.w, b.d * 0.34, stroke=darker(tone, 0.3), stroke_width=HAIRLINE)
-    g.close_group()
-    p.ears(g, b)
-    return g, b
-
-
 def lumopro_rack():
-    g, b = _rack(30, CHARCOAL)
+    g, b = cases.rack(30, CHARCOAL)
     p.panel(g, b.x + 5, b.y + 5, 38, b.h - 10, SILVER, 3)
     p.lcd(g, b.x + 8, b.y + 8, 19, b.h - 16, "bars")
     p.knob(g, b.x + 35, b.y + b.h / 2, 5, CHARCOAL)
@@ -144,7 +108,7 @@ def lumopro_rack():
 
 
 def lumopro_avr_rack():
-    g, b = _rack(36, CHARCOAL)
+    g, b = cases.rack(36, CHARCOAL)
     p.panel(g, b.x + 5, b.y + 5, b.w - 10, 17, SILVER, 3)
     p.lcd(g, b.x + 8, b.y + 7, 32, 13, "wave")
     p.leds(g, b.x + 48, b.y + 13.5, [GREEN, YELLOW, ORANGE], 6)
@@ -154,7 +118,7 @@ def lumopro_avr_rack():
 
 
 def cormel_rack():
-    g, b = _rack(32, CORMEL)
+    g, b = cases.rack(32, CORMEL)
     p.panel(g, b.x + b.w / 2 - 17, b.y + 5, 34, b.h - 10, FACE, 3)
     p.leds(g, b.x + b.w / 2 - 10, b.y + 11, [GREEN, YELLOW, ORANGE, ORANGE], 6.6)
     p.knob(g, b.x + b.w / 2, b.y + 20.5, 4.6, CORMEL)
@@ -164,17 +128,17 @@ def cormel_rack():
 
 
 def cormel_hid_rack():
-    g, b = _rack(32, CORMEL)
+    g, b = cases.rack(32, CORMEL)
     p.panel(g, b.x + 5, b.y + 5, 44, b.h - 10, FACE, 3)
     p.lcd(g, b.x + 8, b.y + 8, 26, b.h - 16, "bars")
-    _usb(g, b.x + 37, b.y + 9)
+    cases.usb(g, b.x + 37, b.y + 9)
     p.key(g, b.x + 37.5, b.y + 18, 8, 4)
     p.bars_vent(g, b.x + 54, b.y + 7, 28, b.h - 14, 7, CORMEL)
     return g
 
 
 def cormelxl_rack():
-    g, b = _rack(48, CORMEL)
+    g, b = cases.rack(48, CORMEL)
     for x in (b.x + 5, b.x + b.w - 8.4):
         p.handle(g, x, b.y + 10, b.h - 20)
     p.panel(g, b.x + b.w / 2 - 22, b.y + 6, 44, 20, FACE, 3)
@@ -185,7 +149,7 @@ def cormelxl_rack():
 
 
 def cormelpro_rack():
-    g, b = _rack(34, CORMEL)
+    g, b = cases.rack(34, CORMEL)
     p.lcd(g, b.x + b.w / 2 - 19, b.y + 6, 38, b.h - 12, "wave")
     for x in (b.x + 6, b.x + b.w - 20):
         p.mesh(g, x, b.y + 7, 15, b.h - 13, CORMEL)
@@ -195,21 +159,8 @@ def cormelpro_rack():
 
 # Cormel towers.
 
-def _usb(g, x, y):
-    g.rect(x, y, 9, 5.6, 1, fill="#c8d0d8", stroke=INK, stroke_width=0.7)
-    g.rect(x + 1.8, y + 1.6, 5.4, 1.6, fill=INK)
-
-
-def _tower(w=58, h=124, d=66, tone=CORMEL, bottom=174, shift=0):
-    g, b = _start(w, h, d, bottom, shift)
-    p.feet(g, b)
-    p.body(g, b, tone)
-    p.side_vents(g, b, tone, 0.66, 5)
-    return g, b
-
-
 def cormel():
-    g, b = _tower()
+    g, b = cases.tower()
     p.panel(g, b.x + 7, b.y + 8, b.w - 14, 50, FACE, 4)
     p.leds(g, b.x + 17, b.y + 17, [GREEN, GREEN, YELLOW, ORANGE], 8, down=True)
     for i in range(4):
@@ -221,18 +172,18 @@ def cormel():
 
 
 def cormel_hid():
-    g, b = _tower(h=118)
+    g, b = cases.tower(h=118)
     p.panel(g, b.x + 7, b.y + 8, b.w - 14, 52, FACE, 4)
     p.lcd(g, b.x + 11, b.y + 12, b.w - 22, 24, "bars")
     p.knob(g, b.x + 19, b.y + 49, 6, CORMEL)
-    _usb(g, b.x + b.w - 24, b.y + 46)
+    cases.usb(g, b.x + b.w - 24, b.y + 46)
     p.bars_vent(g, b.x + 10, b.y + 70, b.w - 20, 34, 7, CORMEL)
     p.badge(g, b.x + b.w / 2, b.y + 111)
     return g
 
 
 def cormelj():
-    g, b = _tower(w=54, h=116, tone=SILVER)
+    g, b = cases.tower(w=54, h=116, tone=SILVER)
     p.panel(g, b.x + 6, b.y + 7, b.w - 12, 34, CORMEL, 4)
     p.leds(g, b.x + 16, b.y + 16, [GREEN, YELLOW, ORANGE], 11)
     p.key(g, b.x + 14, b.y + 27, b.w - 28, 6)
@@ -255,20 +206,13 @@ def cormellt():
     p.knob(g, unit.x + unit.w / 2, unit.y + 41, 6.5, CORMEL)
     p.slots(g, unit.x + 8, unit.y + 62, unit.w - 16, 32, 6, CORMEL)
     p.badge(g, unit.x + unit.w / 2, unit.y + 102)
-    _battery_mark(g, pack.x + pack.w / 2, pack.y + 24)
+    cases.battery_mark(g, pack.x + pack.w / 2, pack.y + 24)
     p.slots(g, pack.x + 7, pack.y + 44, pack.w - 14, 38, 7, CORMEL)
     return g
 
 
-def _battery_mark(g, cx, cy, colour="#dfe6ec"):
-    g.rect(cx - 8, cy - 5, 15, 10, 1.6, fill="none", stroke=colour, stroke_width=1.3)
-    g.rect(cx + 7.6, cy - 2, 2, 4, 0.6, fill=colour)
-    for i in range(3):
-        g.rect(cx - 5.8 + i * 4, cy - 2.8, 2.6, 5.6, 0.4, fill=TEAL)
-
-
 def cormelpro():
-    g, b = _tower(h=130)
+    g, b = cases.tower(h=130)
     p.panel(g, b.x + 6, b.y + 7, b.w - 12, 66, FACE, 4)
     p.lcd(g, b.x + 10, b.y + 11, b.w - 20, 36, "wave")
     for i in range(3):
@@ -280,7 +224,7 @@ def cormelpro():
 
 
 def cormelxl():
-    g, b = _start(66, 136, 62, bottom=172)
+    g, b = cases.start(66, 136, 62, bottom=172)
     p.casters(g, b)
     p.body(g, b, CORMEL)
     p.side_vents(g, b, CORMEL, 0.68, 5)
@@ -294,52 +238,16 @@ def cormelxl():
     return g
 
 
-def _standing(g, b, tone, face=None):
-    """A narrow convertible unit on its stand, grips at the top and the bottom of the front."""
-    for x in (b.x - 5, b.x + b.w - 5):
-        g.polygon([(x, b.y + b.h + 4), (x + 10, b.y + b.h + 4), (x + 8, b.y + b.h - 5), (x + 2, b.y + b.h - 5)],
-                  fill=INK)
-    p.body(g, b, tone)
-    if face:
-        p.panel(g, b.x + 3, b.y + 3, b.w - 6, b.h - 6, face, 3)
-
-
-def _convertible(tone, face, packs, content="bars", stripe=None):
-    """A convertible unit standing up, with `packs` battery packs of the same form on its right."""
-    g = p.picture()
-    w, h, d, step = 34, 122, (84 if packs == 0 else 62), 44
-    total = w + packs * step + d * p.DEPTH_X
-    left = round((p.WIDTH - total) / 2) + 0.5
-    boxes = [p.Box(left + i * step, 172.5 - h, w, h, d) for i in range(packs + 1)]
-    for b in boxes:
-        p.ground(g, b)
-    for b in boxes:
-        _standing(g, b, tone, face)
-        if stripe:
-            g.rect(b.x + 3, b.y + b.h - 22, b.w - 6, 3, fill=stripe)
-    for pack in boxes[1:]:
-        _battery_mark(g, pack.x + pack.w / 2, pack.y + 20)
-        p.mesh(g, pack.x + 7, pack.y + 36, pack.w - 14, 58, face)
-    unit = boxes[0]
-    p.lcd(g, unit.x + 6, unit.y + 8, unit.w - 12, 30, content)
-    for i in range(2):
-        p.key(g, unit.x + 7.5 + i * 11, unit.y + 43, 8, 4.4)
-    p.leds(g, unit.x + 10.5, unit.y + 54, [GREEN, YELLOW, ORANGE], 6.5)
-    p.mesh(g, unit.x + 7, unit.y + 62, unit.w - 14, 34, face)
-    p.badge(g, unit.x + unit.w / 2, unit.y + 109)
-    return g
-
-
 def cormelrt():
-    return _convertible(CORMEL, darker(CORMEL, 0.35), 0)
+    return cases.convertible(CORMEL, darker(CORMEL, 0.35), 0)
 
 
 def cormelrt_xl():
-    return _convertible(CORMEL, darker(CORMEL, 0.35), 1)
+    return cases.convertible(CORMEL, darker(CORMEL, 0.35), 1)
 
 
 def cormelmeridian():
-    g, b = _start(62, 148, 56, bottom=172)
+    g, b = cases.start(62, 148, 56, bottom=172)
     p.casters(g, b)
     p.body(g, b, CORMEL)
     p.side_vents(g, b, CORMEL, 0.74, 4)
@@ -355,7 +263,7 @@ def cormelmeridian():
 # Online double-conversion units.
 
 def tarvex():
-    g, b = _tower(w=56, h=128, tone=GRAPHITE)
+    g, b = cases.tower(w=56, h=128, tone=GRAPHITE)
     p.panel(g, b.x + 6, b.y + 7, b.w - 12, 54, FACE, 3)
     p.lcd(g, b.x + 10, b.y + 11, b.w - 20, 28, "wave")
     p.leds(g, b.x + 13, b.y + 51, [GREEN, YELLOW, ORANGE], 6.5)
@@ -367,44 +275,27 @@ def tarvex():
 
 
 def tarvexrt():
-    return _convertible(GRAPHITE, FACE, 0, "wave", TEAL)
+    return cases.convertible(GRAPHITE, FACE, 0, "wave", TEAL)
 
 
 def tarvexrt_6_10():
-    return _convertible(GRAPHITE, FACE, 1, "wave", TEAL)
-
-
-def _stacked(heights, tone):
-    """Rack units lying on one another, the lowest last."""
-    g = p.picture()
-    total = sum(heights)
-    base = p.box_between(86, heights[-1], 66, bottom=116 + total / 2)
-    p.ground(g, base)
-    boxes = []
-    bottom = base.y + base.h
-    for h in reversed(heights):
-        boxes.append(p.Box(base.x, bottom - h, base.w, h, base.d))
-        bottom -= h
-    for b in boxes:
-        p.body(g, b, tone)
-        p.ears(g, b)
-    return g, boxes[::-1]
+    return cases.convertible(GRAPHITE, FACE, 1, "wave", TEAL)
 
 
 def tarvexrtplus6_10():
-    g, (unit, pack) = _stacked([34, 40], GRAPHITE)
+    g, (unit, pack) = cases.stacked([34, 40], GRAPHITE)
     p.lcd(g, unit.x + 6, unit.y + 6, 30, unit.h - 12, "mimic")
     p.leds(g, unit.x + 42, unit.y + 10, [GREEN, YELLOW, ORANGE], 6)
     p.key(g, unit.x + 41, unit.y + 18, 14, 6)
     p.mesh(g, unit.x + 60, unit.y + 6, 22, unit.h - 11, GRAPHITE)
     p.stripe(g, unit, unit.y + unit.h - 4.4, 3.4, TEAL, side=False)
-    _battery_mark(g, pack.x + 20, pack.y + pack.h / 2)
+    cases.battery_mark(g, pack.x + 20, pack.y + pack.h / 2)
     p.mesh(g, pack.x + 36, pack.y + 7, 46, pack.h - 13, GRAPHITE)
     return g
 
 
 def tarvex_rt_plus():
-    g, b = _rack(36, GRAPHITE)
+    g, b = cases.rack(36, GRAPHITE)
     p.panel(g, b.x + 4, b.y + 4, b.w - 8, b.h - 12, FACE, 3)
     p.lcd(g, b.x + b.w / 2 - 17, b.y + 6.5, 34, b.h - 17, "wave")
     p.leds(g, b.x + 10, b.y + 16, [GREEN, YELLOW, ORANGE], 6)
@@ -414,7 +305,7 @@ def tarvex_rt_plus():
 
 
 def tarvex_rt_pro_1k_3k():
-    g, b = _rack(34, GRAPHITE)
+    g, b = cases.rack(34, GRAPHITE)
     for x in (b.x + 4, b.x + b.w - 7.4):
         p.handle(g, x, b.y + 6, b.h - 12)
     p.lcd(g, b.x + 12, b.y + 6, 24, b.h - 12, "bars")
@@ -425,7 +316,7 @@ def tarvex_rt_pro_1k_3k():
 
 
 def tarvex_kombi_10k_20k():
-    g, b = _start(66, 140, 60, bottom=172)
+    g, b = cases.start(66, 140, 60, bottom=172)
     p.casters(g, b)
     p.body(g, b, GRAPHITE)
     p.side_vents(g, b, GRAPHITE, 0.7, 5)
@@ -443,9 +334,9 @@ def tarvex_kombi_10k_20k():
 
 
 def tarvex_noir():
-    g, b = _tower(w=58, h=132, tone=BLACK)
-    g.rect(b.x + 5, b.y + 6, b.w - 10, b.h - 12, 3, fill=g.linear([(0, "#3a4149"), (0.45, "#14181c"), (1, "#0b0d10")],
-                                                                  0, 0, 0.7, 1), stroke="#4b545d", stroke_width=HAIRLINE)
+    g, b = cases.tower(w=58, h=132, tone=BLACK)
+    gloss = g.linear([(0, "#3a4149"), (0.45, "#14181c"), (1, "#0b0d10")], 0, 0, 0.7, 1)
+    g.rect(b.x + 5, b.y + 6, b.w - 10, b.h - 12, 3, fill=gloss, stroke="#4b545d", stroke_width=HAIRLINE)
     p.lcd(g, b.x + 10, b.y + 14, b.w - 20, 30, "wave", "#dfe9f2")
     g.line(b.x + 14, b.y + 52, b.x + b.w - 14, b.y + 52, stroke=TEAL, stroke_width=2, stroke_linecap="round")
     p.knob(g, b.x + b.w / 2, b.y + 67, 6.5, BLACK, "#dfe9f2")
@@ -456,34 +347,15 @@ def tarvex_noir():
 
 # Cabinets.
 
-def _door(g, x, y, w, h, tone, hinge_left=True):
-    p.panel(g, x, y, w, h, tone, 1.6)
-    grip = x + w - 5 if hinge_left else x + 2.6
-    g.rect(grip, y + h * 0.4, 2.4, 13, 1.2, fill="#56626e", stroke=INK, stroke_width=0.6)
-
-
-def _cabinet(accent, frame=SLATE):
-    g, b = _start(78, 150, 54, bottom=174)
-    p.body(g, b, LIGHT)
-    p.side_vents(g, b, LIGHT, 0.1, 4)
-    g.rect(b.x, b.y + b.h - 8, b.w, 8, fill=darker(frame, 0.35), stroke=INK, stroke_width=OUTLINE)
-    p.panel(g, b.x + 5, b.y + 5, b.w - 10, 46, frame, 2)
-    p.lcd(g, b.x + 20, b.y + 10, 38, 27, "mimic", lighter(accent, 0.35))
-    p.leds(g, b.x + 30, b.y + 44, [GREEN, YELLOW, ORANGE], 9)
-    g.rect(b.x + 5, b.y + 54, b.w - 10, 3.6, fill=accent)
-    _door(g, b.x + 5, b.y + 61, b.w - 10, b.h - 73, LIGHT)
-    return g, b
-
-
 def tarvex33():
-    g, b = _cabinet(TEAL)
+    g, b = cases.cabinet(TEAL)
     for top in (69, 104):
         p.slots(g, b.x + 13, b.y + top, b.w - 30, 28, 6, LIGHT)
     return g
 
 
 def tarvex33verde():
-    g, b = _cabinet(LEAF, "#2c4a42")
+    g, b = cases.cabinet(LEAF, "#2c4a42")
     g.rect(b.x + 9, b.y + 65, 6, b.h - 81, 1.5, fill=LEAF)
     p.mesh(g, b.x + 20, b.y + 67, b.w - 40, b.h - 84, LIGHT, 4.8, 1.3)
     return g
@@ -508,7 +380,7 @@ def tarvex_dual31():
 
 
 def hedrix():
-    g, b = _start(84, 156, 46, bottom=176)
+    g, b = cases.start(84, 156, 46, bottom=176)
     p.body(g, b, SLATE)
     p.panel(g, b.x + 6, b.y + 6, b.w - 12, 32, FACE, 2)
     p.lcd(g, b.x + 22, b.y + 9, 40, 26, "mimic")
@@ -534,10 +406,10 @@ def borel():
         g.rect(x, base.y + 3.6, 16, 6, 1, fill=INK)
     p.body(g, b, tone)
     _exhaust(g, b)
-    _door(g, b.x + 5, b.y + 6, 29, b.h - 12, tone)
+    cases.door(g, b.x + 5, b.y + 6, 29, b.h - 12, tone)
     p.lcd(g, b.x + 9, b.y + 12, 20, 14, "wave")
     p.leds(g, b.x + 11.5, b.y + 32.5, [GREEN, YELLOW, ORANGE], 5.5)
-    g.circle(b.x + 19, b.y + 53, 4.6, fill="#c62828", stroke=INK, stroke_width=HAIRLINE)
+    g.circle(b.x + 19, b.y + 53, 4.6, fill=RED, stroke=INK, stroke_width=HAIRLINE)
     g.circle(b.x + 19, b.y + 53, 7, fill="none", stroke=YELLOW, stroke_width=1.4)
     p.panel(g, b.x + 37, b.y + 6, 54, 12, tone, 1.6)
     p.badge(g, b.x + 64, b.y + 12)
@@ -573,14 +445,15 @@ def virtual_device():
         p.slots(g, b.x + 6, b.y + 48, b.w - 12, 40, 7, SLATE)
     tops = [(b.x + (b.w + b.dx) / 2, b.y - b.dy / 2) for b in boxes]
     bus = 32
-    casing = dict(fill="none", stroke_linecap="round", stroke_linejoin="round")
+    (left, top), (middle, _), (right, _) = tops
+    route = (f"M{left:.1f} {top:.1f} V{bus + 4} q0 -4 4 -4 H{right - 4:.1f} q4 0 4 4 V{top:.1f} "
+             f"M{middle:.1f} {top:.1f} V{bus}")
     for stroke, width in ((INK, 4.6), (TEAL, 2.4)):
-        g.path(f"M{tops[0][0]:.1f} {tops[0][1]:.1f} V{bus + 4} q0 -4 4 -4 H{tops[2][0] - 4:.1f} q4 0 4 4 "
-               f"V{tops[2][1]:.1f} M{tops[1][0]:.1f} {tops[1][1]:.1f} V{bus}", stroke=stroke, stroke_width=width, **casing)
+        g.path(route, fill="none", stroke=stroke, stroke_width=width, stroke_linecap="round", stroke_linejoin="round")
     for x, y in tops:
         g.ellipse(x, y, 5, 3.2, fill=TEAL, stroke=INK, stroke_width=HAIRLINE)
-    g.circle(tops[1][0], bus, 6.5, fill=TEAL, stroke=INK, stroke_width=OUTLINE)
-    g.circle(tops[1][0], bus, 2.4, fill=WHITE)
+    g.circle(middle, bus, 6.5, fill=TEAL, stroke=INK, stroke_width=OUTLINE)
+    g.circle(middle, bus, 2.4, fill=WHITE)
     return g
 
 
