@@ -64,9 +64,7 @@ private slots:
     void nameAndLocation();
     void messagesAndEvents();
     void equalityFollowsWhatIsShown();
-    void captions_data();
-    void captions();
-    void reasonsOfMissingValues();
+    void captionsFollowTheModel();
 };
 
 void DeviceStateViewTest::failedReports_data()
@@ -246,39 +244,14 @@ void DeviceStateViewTest::equalityFollowsWhatIsShown()
     QVERIFY(viewOf({}) != viewOf({QStringLiteral("messages=")}));
 }
 
-void DeviceStateViewTest::captions_data()
+void DeviceStateViewTest::captionsFollowTheModel()
 {
-    QTest::addColumn<QString>("configName");
-    QTest::addColumn<QString>("box");
-    QTest::addColumn<QString>("load");
-    QTest::addColumn<QString>("temperature");
-    QTest::newRow("a single-phase UPS")
-        << "Cormel_USB"
-        << "UPS" << QStringLiteral("Obciążenie") << QStringLiteral("Temperatura wewnętrzna UPS");
-    QTest::newRow("three phases name the first")
-        << "Virtual_Device"
-        << "UPS" << QStringLiteral("Obciążenie L1") << QStringLiteral("Temperatura wewnętrzna UPS");
-    QTest::newRow("a genset") << "Borel_SNMP"
-                              << "Agregat" << QStringLiteral("Obciążenie")
-                              << QStringLiteral("Całkowity czas pracy");
-}
-
-void DeviceStateViewTest::captions()
-{
-    QFETCH(QString, configName);
-    const DeviceCaptions shown = deviceCaptions(configName);
-    QTEST(shown.box, "box");
-    QTEST(shown.load, "load");
-    QTEST(shown.temperature, "temperature");
-}
-
-void DeviceStateViewTest::reasonsOfMissingValues()
-{
-    const MissingValueReasons cormel = missingValueReasons(QStringLiteral("CormelRT_USB"));
-    QVERIFY(!cormel.temperature && cormel.firmware && cormel.nominalActivePower &&
-            cormel.nominalSpuriousPower);
-    const MissingValueReasons dual = missingValueReasons(QStringLiteral("tarvex_dual31_snmp"));
-    QVERIFY(dual.temperature && !dual.firmware && !dual.nominalActivePower && !dual.nominalSpuriousPower);
+    QCOMPARE(deviceCaptions(QStringLiteral("Borel_SNMP")).nominalActivePower,
+             QStringLiteral("Numer seryjny sterownika"));
+    QCOMPARE(deviceCaptions(QStringLiteral("Cormel_USB")).load, QStringLiteral("Obciążenie"));
+    QCOMPARE(deviceCaptions(QStringLiteral("Virtual_Device")).load, QStringLiteral("Obciążenie L1"));
+    QVERIFY(!missingValueReasons(QStringLiteral("CormelRT_USB")).temperature);
+    QVERIFY(!missingValueReasons(QStringLiteral("tarvex_dual31_snmp")).firmware);
 }
 
 QTEST_GUILESS_MAIN(DeviceStateViewTest)

@@ -21,7 +21,7 @@ QVector<Message> readCatalogue(QIODevice& file, QString& error)
     QXmlStreamReader reader(&file);
     QString context;
     while (!reader.atEnd()) {
-        if (!reader.readNextStartElement())
+        if (reader.readNext() != QXmlStreamReader::StartElement)
             continue;
         if (reader.name() == QLatin1String("name")) {
             context = reader.readElementText();
@@ -67,7 +67,7 @@ private slots:
 
 void EnglishCatalogueTest::everyTextIsTranslatedInTheSameFrame()
 {
-    QFile file(QStringLiteral(VELMORA_TEST_DATA "/../../resources/translation/velmora_en_US.ts"));
+    QFile file(QStringLiteral(VELMORA_ENGLISH_CATALOGUE));
     QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.errorString()));
     QString error;
     const QVector<Message> messages = readCatalogue(file, error);

@@ -36,14 +36,11 @@ private slots:
     void configNameOfABoxSelection();
     void interfacesOfAShortName_data();
     void interfacesOfAShortName();
-    void shortNameOfAnUnknownConfigName();
     void eventDefinitions_data();
     void eventDefinitions();
     void advancedOptionsAndEventDefinitionsKeepStep();
     void families_data();
     void families();
-    void pictures_data();
-    void pictures();
 };
 
 void ModelCatalogueTest::configNamesAreUnique()
@@ -116,11 +113,6 @@ void ModelCatalogueTest::interfacesOfAShortName()
     QFETCH(QString, shortName);
     QFETCH(QString, interfaces);
     QCOMPARE(getInterfaceType(shortName), interfaces.split(QLatin1Char(' '), Qt::SkipEmptyParts));
-}
-
-void ModelCatalogueTest::shortNameOfAnUnknownConfigName()
-{
-    QCOMPARE(getModelShortName(QStringLiteral("tarvexrt_usb")), QStringLiteral("unknown"));
 }
 
 void ModelCatalogueTest::eventDefinitions_data()
@@ -202,26 +194,6 @@ void ModelCatalogueTest::families()
     QTEST(isGenset(configName), "genset");
     QTEST(isLargeDevice(configName), "large");
     QTEST(showsThreePhases(configName), "threePhases");
-}
-
-void ModelCatalogueTest::pictures_data()
-{
-    QTest::addColumn<QString>("configName");
-    QTest::addColumn<QString>("family");
-    QTest::newRow("the interface does not count") << "Tarvex_RT_PRO_1k_3k_RS232"
-                                                  << "tarvex_rt_pro_1k_3k";
-    QTest::newRow("a virtual device has its own") << "Virtual_Device"
-                                                  << "virtual_device";
-    QTest::newRow("an interface in lower case stays") << "Cormel_usb"
-                                                      << "cormel_usb";
-    QTest::newRow("no device leads to no file") << QString() << "";
-}
-
-void ModelCatalogueTest::pictures()
-{
-    QFETCH(QString, configName);
-    QFETCH(QString, family);
-    QCOMPARE(devicePictureName(configName), QString(QLatin1String(":/devices/images/devices/") + family));
 }
 
 QTEST_GUILESS_MAIN(ModelCatalogueTest)

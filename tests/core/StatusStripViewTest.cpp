@@ -27,10 +27,9 @@ class StatusStripViewTest final : public QObject
 private slots:
     void serviceLines_data();
     void serviceLines();
-    void deviceLine_data();
-    void deviceLine();
     void deviceStateUnderAService_data();
     void deviceStateUnderAService();
+    void unknownDeviceReadsLikeAConnectingOne();
     void powerOff();
     void timersKeepTheFirstValueOfAnId();
     void announcements_data();
@@ -80,36 +79,6 @@ void StatusStripViewTest::serviceLines()
     QCOMPARE(view.noteStyle.isEmpty(), view.note.isEmpty());
 }
 
-void StatusStripViewTest::deviceLine_data()
-{
-    QTest::addColumn<State>("state");
-    QTest::addColumn<StatusIcon>("icon");
-    QTest::addColumn<QString>("upsText");
-    QTest::addColumn<QString>("gensetText");
-    QTest::addColumn<bool>("styled");
-    const QString ups = QStringLiteral("Komunikacja z UPS nieznana");
-    const QString genset = QStringLiteral("Komunikacja z agregatem\nnieznana");
-    QTest::newRow("connected") << State::Connected << StatusIcon::Ok << QStringLiteral("Połączono z UPS")
-                               << QStringLiteral("Połączono z agregatem") << true;
-    QTest::newRow("disconnected") << State::Disconnected << StatusIcon::Error << "Brak komunikacji z UPS"
-                                  << "Brak komunikacji z agregatem" << true;
-    QTest::newRow("connecting spins") << State::Connecting << StatusIcon::Spinner << ups << genset << true;
-    QTest::newRow("unknown reads the same") << State::Unknown << StatusIcon::Unknown << ups << genset << true;
-    QTest::newRow("nothing to show leaves the style") << State::Initial << StatusIcon::None << ""
-                                                      << "" << false;
-}
-
-void StatusStripViewTest::deviceLine()
-{
-    QFETCH(State, state);
-    const DeviceStatusView ups = deviceStatusView(state, VLDeviceType::Ups);
-    const DeviceStatusView genset = deviceStatusView(state, VLDeviceType::Genset);
-    QTEST(ups.icon, "icon");
-    QTEST(ups.text, "upsText");
-    QTEST(genset.text, "gensetText");
-    QTEST(ups.style.has_value(), "styled");
-}
-
 void StatusStripViewTest::deviceStateUnderAService_data()
 {
     QTest::addColumn<State>("service");
@@ -130,6 +99,15 @@ void StatusStripViewTest::deviceStateUnderAService()
     QFETCH(State, service);
     QFETCH(State, device);
     QTEST(shownDeviceState(service, device), "shown");
+}
+
+void StatusStripViewTest::unknownDeviceReadsLikeAConnectingOne()
+{
+    const DeviceStatusView unknown = deviceStatusView(State::Unknown, VLDeviceType::Genset);
+    QCOMPARE(unknown.text, QStringLiteral("Komunikacja z agregatem\nnieznana"));
+    QCOMPARE(unknown.text, deviceStatusView(State::Connecting, VLDeviceType::Genset).text);
+    QCOMPARE(unknown.icon, StatusIcon::Unknown);
+    QVERIFY(!deviceStatusView(State::Initial, VLDeviceType::Genset).style.has_value());
 }
 
 void StatusStripViewTest::powerOff()
