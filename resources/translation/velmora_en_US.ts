@@ -1,0 +1,1395 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="pl">
+<context>
+    <name>ExtendInformationWindow</name>
+    <message>
+        <source>Napięcie wejściowe</source>
+        <translation>Input voltage</translation>
+    </message>
+    <message>
+        <source>Napięcie międzyfazowe w sieci elektrycznej</source>
+        <translation>Mains line-to-line voltage</translation>
+    </message>
+    <message>
+        <source>Częstotliwość wejściowa</source>
+        <translation>Input frequency</translation>
+    </message>
+    <message>
+        <source>Moc czynna wejściowa</source>
+        <translation>Input active power</translation>
+    </message>
+    <message>
+        <source>Napięcie wyjściowe</source>
+        <translation>Output voltage</translation>
+    </message>
+    <message>
+        <source>Wyjściowe napięcie międzyfazowe</source>
+        <translation>Output line-to-line voltage</translation>
+    </message>
+    <message>
+        <source>Częstotliwość wyjściowa</source>
+        <translation>Output frequency</translation>
+    </message>
+    <message>
+        <source>Moc pozorna wejściowa</source>
+        <translation>Input apparent power</translation>
+    </message>
+    <message>
+        <source>Prąd wejściowy</source>
+        <translation>Input current</translation>
+    </message>
+    <message>
+        <source>PF wejściowy</source>
+        <translation>Input PF</translation>
+    </message>
+    <message>
+        <source>Moc czynna wyjściowa</source>
+        <translation>Output active power</translation>
+    </message>
+    <message>
+        <source>Prąd wyjściowy</source>
+        <translation>Output current</translation>
+    </message>
+    <message>
+        <source>PF wyjściowy</source>
+        <translation>Output PF</translation>
+    </message>
+    <message>
+        <source>Moc bierna wyjściowa</source>
+        <translation>Output reactive power</translation>
+    </message>
+    <message>
+        <source>Moc pozorna wyjściowa</source>
+        <translation>Output apparent power</translation>
+    </message>
+    <message>
+        <source>Prąd akumulatorów</source>
+        <translation>Battery current</translation>
+    </message>
+    <message>
+        <source>Napięcie akumulatorów</source>
+        <translation>Battery voltage</translation>
+    </message>
+    <message>
+        <source>Temperatura</source>
+        <translation>Temperature</translation>
+    </message>
+    <message>
+        <source>Obciążenie</source>
+        <translation>Load</translation>
+    </message>
+    <message>
+        <source>Moc obciążenia</source>
+        <translation>Load power</translation>
+    </message>
+    <message>
+        <source>Temperatura bloku DC/AC</source>
+        <translation>DC/AC unit temperature</translation>
+    </message>
+    <message>
+        <source>Temperatura radiatora</source>
+        <translation>Heat sink temperature</translation>
+    </message>
+    <message>
+        <source>Temperatura akumulatora</source>
+        <translation>Battery temperature</translation>
+    </message>
+    <message>
+        <source>Czas pracy rezerwowej</source>
+        <translation>Time on battery</translation>
+    </message>
+    <message>
+        <source>Adres MAC</source>
+        <translation>MAC address</translation>
+    </message>
+    <message>
+        <source>Adres IP</source>
+        <translation>IP address</translation>
+    </message>
+    <message>
+        <source>Maska sieci</source>
+        <translation>Network mask</translation>
+    </message>
+    <message>
+        <source>Brama domyślna</source>
+        <translation>Default gateway</translation>
+    </message>
+    <message>
+        <source>Pojemność akumulatorów</source>
+        <translation>Battery capacity</translation>
+    </message>
+    <message>
+        <source>Napięcie bypass</source>
+        <translation>Bypass voltage</translation>
+    </message>
+    <message>
+        <source>Napięcie bypass L1/L2/L3</source>
+        <translation>Bypass voltage L1/L2/L3</translation>
+    </message>
+    <message>
+        <source>Prąd bypass</source>
+        <translation>Bypass current</translation>
+    </message>
+    <message>
+        <source>Prąd bypass L1/L2/L3</source>
+        <translation>Bypass current L1/L2/L3</translation>
+    </message>
+    <message>
+        <source>Moc czynna wej L1/L2/L3</source>
+        <translation>Input active power L1/L2/L3</translation>
+    </message>
+    <message>
+        <source>Moc czynna wyj L1/L2/L3</source>
+        <translation>Output active power L1/L2/L3</translation>
+    </message>
+    <message>
+        <source>Moc czynna bypass</source>
+        <translation>Bypass active power</translation>
+    </message>
+    <message>
+        <source>Moc czynna byp L1/L2/L3</source>
+        <translation>Bypass active power L1/L2/L3</translation>
+    </message>
+    <message>
+        <source>Moc bierna wyj L1/L2/L3</source>
+        <translation>Output reactive power L1/L2/L3</translation>
+    </message>
+    <message>
+        <source>Moc pozorna wej L1/L2/L3</source>
+        <translation>Input apparent power L1/L2/L3</translation>
+    </message>
+    <message>
+        <source>PF wyjściowy L1/L2/L3</source>
+        <translation>Output PF L1/L2/L3</translation>
+    </message>
+    <message>
+        <source>Moc pozorna wyj L1/L2/L3</source>
+        <translation>Output apparent power L1/L2/L3</translation>
+    </message>
+    <message>
+        <source>Moc pozorna bypass</source>
+        <translation>Bypass apparent power</translation>
+    </message>
+    <message>
+        <source>Moc pozorna byp L1/L2/L3</source>
+        <translation>Bypass apparent power L1/L2/L3</translation>
+    </message>
+    <message>
+        <source>Współczynnik mocy wyjściowej</source>
+        <translation>Output power factor</translation>
+    </message>
+    <message>
+        <source>Współczynnik mocy bypass</source>
+        <translation>Bypass power factor</translation>
+    </message>
+    <message>
+        <source>PF toru obejściowego</source>
+        <translation>Bypass PF</translation>
+    </message>
+    <message>
+        <source>Współczynnik mocy prostownika</source>
+        <translation>Rectifier power factor</translation>
+    </message>
+    <message>
+        <source>Częstotliwość bypass</source>
+        <translation>Bypass frequency</translation>
+    </message>
+    <message>
+        <source>Napięcie prostownika</source>
+        <translation>Rectifier voltage</translation>
+    </message>
+    <message>
+        <source>Prąd prostownika</source>
+        <translation>Rectifier current</translation>
+    </message>
+    <message>
+        <source>Częstotliwość prostownika</source>
+        <translation>Rectifier frequency</translation>
+    </message>
+    <message>
+        <source>Moc czynna prostownika</source>
+        <translation>Rectifier active power</translation>
+    </message>
+    <message>
+        <source>Moc pozorna prostownika</source>
+        <translation>Rectifier apparent power</translation>
+    </message>
+    <message>
+        <source>PF prostownika</source>
+        <translation>Rectifier PF</translation>
+    </message>
+    <message>
+        <source>Stan akumulatorów</source>
+        <translation>Battery state</translation>
+    </message>
+    <message>
+        <source>Temperatura otoczenia</source>
+        <translation>Ambient temperature</translation>
+    </message>
+    <message>
+        <source>Wilgotność względna</source>
+        <translation>Relative humidity</translation>
+    </message>
+    <message>
+        <source>Maksymalne napięcie wejściowe</source>
+        <translation>Maximum input voltage</translation>
+    </message>
+    <message>
+        <source>Minimalne napięcie wejściowe</source>
+        <translation>Minimum input voltage</translation>
+    </message>
+    <message>
+        <source>Dodatnie napięcie magistrali</source>
+        <translation>Positive bus voltage</translation>
+    </message>
+    <message>
+        <source>Ujemne napięcie magistrali</source>
+        <translation>Negative bus voltage</translation>
+    </message>
+    <message>
+        <source>Bazowy współczynnik kompensacji</source>
+        <translation>Base compensation factor</translation>
+    </message>
+    <message>
+        <source>Współczynnik kompensacji</source>
+        <translation>Compensation factor</translation>
+    </message>
+    <message>
+        <source>D+</source>
+        <translation>D+</translation>
+    </message>
+    <message>
+        <source>Poziom paliwa</source>
+        <translation>Fuel level</translation>
+    </message>
+    <message>
+        <source>Całkowity czas pracy</source>
+        <translation>Total run time</translation>
+    </message>
+    <message>
+        <source>Całkowite zużycie paliwa</source>
+        <translation>Total fuel consumption</translation>
+    </message>
+    <message>
+        <source>Liczba uruchomień</source>
+        <translation>Number of starts</translation>
+    </message>
+    <message>
+        <source>Wyłączenia awaryjne</source>
+        <translation>Emergency stops</translation>
+    </message>
+    <message>
+        <source>Czas do przeglądu</source>
+        <translation>Time to maintenance</translation>
+    </message>
+    <message>
+        <source>Numer seryjny sterownika</source>
+        <translation>Controller serial number</translation>
+    </message>
+    <message>
+        <source>Licznik zaników napiecia sieciowego</source>
+        <translation>Mains failure counter</translation>
+    </message>
+    <message>
+        <source>Licznik wyzwoleń AVR podwyższającego</source>
+        <translation>AVR boost counter</translation>
+    </message>
+    <message>
+        <source>Licznik przeciążeń</source>
+        <translation>Overload counter</translation>
+    </message>
+    <message>
+        <source>Licznik zwarć</source>
+        <translation>Short-circuit counter</translation>
+    </message>
+    <message>
+        <source>Licznik rozładowań</source>
+        <translation>Discharge counter</translation>
+    </message>
+    <message>
+        <source>Czas pracy w przeciążeniu</source>
+        <translation>Overload operation time</translation>
+    </message>
+    <message>
+        <source>Czas pracy sieciowej</source>
+        <translation>Mains operation time</translation>
+    </message>
+    <message>
+        <source>Czas pracy autonomicznej</source>
+        <translation>Battery operation time</translation>
+    </message>
+    <message>
+        <source>Próg sygnalizacji niskiego poziomu baterii</source>
+        <translation>Battery low warning threshold</translation>
+    </message>
+    <message>
+        <source>Numer fabryczny UPS</source>
+        <translation>UPS serial number</translation>
+    </message>
+    <message>
+        <source>Nazwa urządzenia</source>
+        <translation>Device name</translation>
+    </message>
+    <message>
+        <source>Lokalizacja urządzenia</source>
+        <translation>Device location</translation>
+    </message>
+    <message>
+        <source>Osoba kontaktowa</source>
+        <translation>Contact person</translation>
+    </message>
+    <message>
+        <source>Wersja firmware karty NMC</source>
+        <translation>NMC card firmware version</translation>
+    </message>
+    <message>
+        <source>Maksymalna ilość modułów UPS</source>
+        <translation>Maximum number of UPS modules</translation>
+    </message>
+    <message>
+        <source>Znamionowa moc pozorna pojedynczego
+modułu UPS</source>
+        <translation>Rated apparent power of a single
+UPS module</translation>
+    </message>
+    <message>
+        <source>Konfiguracja faz wejściowych/wyjściowych UPS</source>
+        <translation>UPS input/output phase configuration</translation>
+    </message>
+    <message>
+        <source>Napięcie fazowe w sieci elektrycznej</source>
+        <translation>Mains phase voltage</translation>
+    </message>
+    <message>
+        <source>Częstotliwość w sieci elektrycznej</source>
+        <translation>Mains frequency</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Wirtualny UPS</source>
+        <translation>Virtual UPS</translation>
+    </message>
+    <message>
+        <source>Agregat Borel</source>
+        <translation>Borel genset</translation>
+    </message>
+    <message>
+        <source>Brak komunikacji</source>
+        <translation>No communication</translation>
+    </message>
+    <message>
+        <source>Tryb pracy - </source>
+        <translation>Work mode - </translation>
+    </message>
+    <message>
+        <source>Załączony AVR podwyższający</source>
+        <translation>AVR boost on</translation>
+    </message>
+    <message>
+        <source>Zwarcie na wyjściu zasilacza</source>
+        <translation>Short-circuit at the UPS output</translation>
+    </message>
+    <message>
+        <source>Przeciążenie zasilacza</source>
+        <translation>UPS overload</translation>
+    </message>
+    <message>
+        <source>Nadmierny wzrost temperatury</source>
+        <translation>Overtemperature</translation>
+    </message>
+    <message>
+        <source>Zużycie akumulatora</source>
+        <translation>Battery worn out</translation>
+    </message>
+    <message>
+        <source>Stan niskiej baterii</source>
+        <translation>Battery low</translation>
+    </message>
+    <message>
+        <source>Wsteczne zasilanie gniazd wyjściowych</source>
+        <translation>Backfeed at the output sockets</translation>
+    </message>
+    <message>
+        <source>Status ładowania akumulatorów</source>
+        <translation>Battery charging status</translation>
+    </message>
+    <message>
+        <source>Status naładowania akumulatorów</source>
+        <translation>Battery charge status</translation>
+    </message>
+    <message>
+        <source>Ładowanie</source>
+        <translation>Charging</translation>
+    </message>
+    <message>
+        <source>Oczekiwanie na ładunek minimalny</source>
+        <translation>Waiting for minimum charge</translation>
+    </message>
+    <message>
+        <source>Serwis</source>
+        <translation>Maintenance</translation>
+    </message>
+    <message>
+        <source>Bypass</source>
+        <translation>Bypass</translation>
+    </message>
+    <message>
+        <source>Przeciążenie wyjścia</source>
+        <translation>Output overload</translation>
+    </message>
+    <message>
+        <source>Błąd akumulatora</source>
+        <translation>Battery fault</translation>
+    </message>
+    <message>
+        <source>Aktywne EPO</source>
+        <translation>EPO active</translation>
+    </message>
+    <message>
+        <source>Błąd wewnętrzny</source>
+        <translation>Internal fault</translation>
+    </message>
+    <message>
+        <source>Nadmierny wzrost temperatury prostownika</source>
+        <translation>Rectifier overtemperature</translation>
+    </message>
+    <message>
+        <source>Nadmierny wzrost temperatury falownika</source>
+        <translation>Inverter overtemperature</translation>
+    </message>
+    <message>
+        <source>Brak komunikacji z prostownikiem</source>
+        <translation>No communication with the rectifier</translation>
+    </message>
+    <message>
+        <source>Brak komunikacji z falownikiem</source>
+        <translation>No communication with the inverter</translation>
+    </message>
+    <message>
+        <source>Niepoprawna kolejność faz linii BYPASS</source>
+        <translation>Incorrect bypass line phase sequence</translation>
+    </message>
+    <message>
+        <source>Zasilanie linii BYPASS poza zakresem</source>
+        <translation>Bypass line supply out of range</translation>
+    </message>
+    <message>
+        <source>Otwarty obwód baterii</source>
+        <translation>Battery circuit open</translation>
+    </message>
+    <message>
+        <source>Zasilanie linii podstawowej poza zakresem</source>
+        <translation>Main line supply out of range</translation>
+    </message>
+    <message>
+        <source>Błąd wewnętrzny prostownika</source>
+        <translation>Internal rectifier fault</translation>
+    </message>
+    <message>
+        <source>Błąd wewnętrzny falownika</source>
+        <translation>Internal inverter fault</translation>
+    </message>
+    <message>
+        <source>Praca normalna</source>
+        <translation>Normal operation</translation>
+    </message>
+    <message>
+        <source>Praca równoległa - MASTER</source>
+        <translation>Parallel operation - MASTER</translation>
+    </message>
+    <message>
+        <source>Praca równoległa - SLAVE</source>
+        <translation>Parallel operation - SLAVE</translation>
+    </message>
+    <message>
+        <source>Awaria wyświetlacza LCD</source>
+        <translation>LCD display failure</translation>
+    </message>
+    <message>
+        <source>Praca równoległa - jednostka zatrzymana</source>
+        <translation>Parallel operation - unit stopped</translation>
+    </message>
+    <message>
+        <source>Praca równoległa - brak redundancji</source>
+        <translation>Parallel operation - no redundancy</translation>
+    </message>
+    <message>
+        <source>Praca równoległa - jednostka nieaktywna</source>
+        <translation>Parallel operation - unit inactive</translation>
+    </message>
+    <message>
+        <source>Błąd pracy równoległej</source>
+        <translation>Parallel operation fault</translation>
+    </message>
+    <message>
+        <source>Praca równoległa - brak minimalnej ilości jednostek</source>
+        <translation>Parallel operation - minimum number of units not reached</translation>
+    </message>
+    <message>
+        <source>Wirtualny UPS - brak wymaganej liczby skonfigurowanych UPS w Velmora</source>
+        <translation>Virtual UPS - required number of UPSs not configured in Velmora</translation>
+    </message>
+    <message>
+        <source>Wirtualny UPS - nie skonfigurowano jednostki MASTER w Velmora</source>
+        <translation>Virtual UPS - no MASTER unit configured in Velmora</translation>
+    </message>
+    <message>
+        <source>Awaria zasiliania na wejściu</source>
+        <translation>Input power failure</translation>
+    </message>
+    <message>
+        <source>Awaria UPS</source>
+        <translation>UPS failure</translation>
+    </message>
+    <message>
+        <source>Wykonywanie testu akumulatorów</source>
+        <translation>Battery test in progress</translation>
+    </message>
+    <message>
+        <source>Trwa wyłączanie UPS</source>
+        <translation>UPS shutting down</translation>
+    </message>
+    <message>
+        <source>Zamienione przewody L i N na wejściu UPS</source>
+        <translation>L and N wires swapped at the UPS input</translation>
+    </message>
+    <message>
+        <source>Błąd EPROM</source>
+        <translation>EPROM fault</translation>
+    </message>
+    <message>
+        <source>Test OK</source>
+        <translation>Test OK</translation>
+    </message>
+    <message>
+        <source>Test - wynik negatywny</source>
+        <translation>Test - failed</translation>
+    </message>
+    <message>
+        <source>Test baterii nie jest możliwy</source>
+        <translation>Battery test not possible</translation>
+    </message>
+    <message>
+        <source>Test - wynik nieznany</source>
+        <translation>Test - result unknown</translation>
+    </message>
+    <message>
+        <source>Tryb pracy normalnej</source>
+        <translation>Normal work mode</translation>
+    </message>
+    <message>
+        <source>Przeciążenie UPS 110%</source>
+        <translation>UPS overload 110%</translation>
+    </message>
+    <message>
+        <source>Przekroczony limit temperatury</source>
+        <translation>Temperature limit exceeded</translation>
+    </message>
+    <message>
+        <source>Przekroczony limit obciążenia</source>
+        <translation>Load limit exceeded</translation>
+    </message>
+    <message>
+        <source>Błąd wentylatora</source>
+        <translation>Fan fault</translation>
+    </message>
+    <message>
+        <source>Błąd magistrali DC</source>
+        <translation>DC bus fault</translation>
+    </message>
+    <message>
+        <source>Błąd falownika</source>
+        <translation>Inverter fault</translation>
+    </message>
+    <message>
+        <source>Błąd oprogramowania falownika</source>
+        <translation>Inverter software fault</translation>
+    </message>
+    <message>
+        <source>Ładowarka - za wysokie napięcie</source>
+        <translation>Charger - voltage too high</translation>
+    </message>
+    <message>
+        <source>Błąd ładowarki</source>
+        <translation>Charger fault</translation>
+    </message>
+    <message>
+        <source>Stan baterii nieznany</source>
+        <translation>Battery state unknown</translation>
+    </message>
+    <message>
+        <source>Stan baterii normalny</source>
+        <translation>Battery state normal</translation>
+    </message>
+    <message>
+        <source>Bateria rozładowana</source>
+        <translation>Battery discharged</translation>
+    </message>
+    <message>
+        <source>Rozładowywanie baterii</source>
+        <translation>Battery discharging</translation>
+    </message>
+    <message>
+        <source>Błąd baterii</source>
+        <translation>Battery fault</translation>
+    </message>
+    <message>
+        <source>Test baterii anulowany</source>
+        <translation>Battery test canceled</translation>
+    </message>
+    <message>
+        <source>Załączony AVR</source>
+        <translation>AVR on</translation>
+    </message>
+    <message>
+        <source>Przeciążenie Bypass</source>
+        <translation>Bypass overload</translation>
+    </message>
+    <message>
+        <source>Konieczna wymiana akumulatorów</source>
+        <translation>Battery replacement required</translation>
+    </message>
+    <message>
+        <source>Załączony AVR obniżający</source>
+        <translation>AVR buck on</translation>
+    </message>
+    <message>
+        <source>AVR podwyższający zablokowany</source>
+        <translation>AVR boost blocked</translation>
+    </message>
+    <message>
+        <source>AVR obniżający zablokowany</source>
+        <translation>AVR buck blocked</translation>
+    </message>
+    <message>
+        <source>Wentylator załączony</source>
+        <translation>Fan on</translation>
+    </message>
+    <message>
+        <source>EPO czasowo zablokowane</source>
+        <translation>EPO temporarily blocked</translation>
+    </message>
+    <message>
+        <source>UPS gotowy do pracy</source>
+        <translation>UPS ready for operation</translation>
+    </message>
+    <message>
+        <source>Nadmierny wzrost temperatury baterii</source>
+        <translation>Battery overtemperature</translation>
+    </message>
+    <message>
+        <source>Brak komunikacji wewnętrznej</source>
+        <translation>No internal communication</translation>
+    </message>
+    <message>
+        <source>Praca rezerwowa</source>
+        <translation>Operating on battery</translation>
+    </message>
+    <message>
+        <source>Awaria zasiliania na wyjściu</source>
+        <translation>Output power failure</translation>
+    </message>
+    <message>
+        <source>Awaria bypass</source>
+        <translation>Bypass failure</translation>
+    </message>
+    <message>
+        <source>Wyjście wyłączone na żądanie</source>
+        <translation>Output turned off on request</translation>
+    </message>
+    <message>
+        <source>UPS wyłączony na żądanie</source>
+        <translation>UPS turned off on request</translation>
+    </message>
+    <message>
+        <source>Wyjście wyłączone</source>
+        <translation>Output turned off</translation>
+    </message>
+    <message>
+        <source>UPS wyłączony</source>
+        <translation>UPS system off</translation>
+    </message>
+    <message>
+        <source>Błąd bezpiecznika</source>
+        <translation>Fuse fault</translation>
+    </message>
+    <message>
+        <source>Test diagnostyczny - wynik negatywny</source>
+        <translation>Diagnostic test - failed</translation>
+    </message>
+    <message>
+        <source>Oczekiwanie na powrót zasilania</source>
+        <translation>Waiting for power to return</translation>
+    </message>
+    <message>
+        <source>Procedura wyłączenia UPS rozpoczęta</source>
+        <translation>UPS shutdown procedure started</translation>
+    </message>
+    <message>
+        <source>Wykonywanie testu</source>
+        <translation>Test in progress</translation>
+    </message>
+    <message>
+        <source>Dynamiczna kompensacja mocy biernej</source>
+        <translation>Dynamic reactive power compensation</translation>
+    </message>
+    <message>
+        <source>Krytyczne napięcie akumulatora</source>
+        <translation>Critical battery voltage</translation>
+    </message>
+    <message>
+        <source>Przegrzanie baterii</source>
+        <translation>Battery overheated</translation>
+    </message>
+    <message>
+        <source>Przegrzanie falownika</source>
+        <translation>Inverter overheated</translation>
+    </message>
+    <message>
+        <source>Brak oleju</source>
+        <translation>No oil</translation>
+    </message>
+    <message>
+        <source>Prestart</source>
+        <translation>Prestart</translation>
+    </message>
+    <message>
+        <source>Parametry sieci poza zakresem</source>
+        <translation>Mains parameters out of range</translation>
+    </message>
+    <message>
+        <source>Test - zakończony ostrzeżeniem</source>
+        <translation>Test - completed with a warning</translation>
+    </message>
+    <message>
+        <source>Opóźnione załączenie wyjścia</source>
+        <translation>Delayed output turn-on</translation>
+    </message>
+    <message>
+        <source>Odliczanie opóźnienia trybu oczekiwania</source>
+        <translation>Waiting mode delay countdown</translation>
+    </message>
+    <message>
+        <source>Parametry linii zasilającej poza zakresem</source>
+        <translation>Supply line parameters out of range</translation>
+    </message>
+    <message>
+        <source>Parametry linii obejściowej poza zakresem</source>
+        <translation>Bypass line parameters out of range</translation>
+    </message>
+    <message>
+        <source>Wyjścia UPS nieaktywne</source>
+        <translation>UPS outputs inactive</translation>
+    </message>
+    <message>
+        <source>Wyjście sterowalne (sekcja 1) wyłączone</source>
+        <translation>Controllable output (section 1) turned off</translation>
+    </message>
+    <message>
+        <source>Wyjście sterowalne (sekcja 2) wyłączone</source>
+        <translation>Controllable output (section 2) turned off</translation>
+    </message>
+    <message>
+        <source>Niepoprawna kolejność faz linii podstawowej</source>
+        <translation>Incorrect main line phase sequence</translation>
+    </message>
+    <message>
+        <source>Nierozpoznany model UPS</source>
+        <translation>Unrecognized UPS model</translation>
+    </message>
+    <message>
+        <source>Zdjęta osłona przełącznika obejścia serwisowego</source>
+        <translation>Maintenance bypass switch cover removed</translation>
+    </message>
+    <message>
+        <source>Zasilanie wyjść z UPS (z podtrzymaniem)</source>
+        <translation>Outputs powered by the UPS (backed up)</translation>
+    </message>
+    <message>
+        <source>Zasilanie wyjść z sieci (bez podtrzymania)</source>
+        <translation>Outputs powered by the mains (not backed up)</translation>
+    </message>
+    <message>
+        <source>Napięcie linii zasilającej nieprawidłowe</source>
+        <translation>Incorrect supply line voltage</translation>
+    </message>
+    <message>
+        <source>Częstotliwość linii zasilającej nieprawidłowa</source>
+        <translation>Incorrect supply line frequency</translation>
+    </message>
+    <message>
+        <source>Napięcie linii Bypass nieprawidłowe</source>
+        <translation>Incorrect bypass line voltage</translation>
+    </message>
+    <message>
+        <source>Częstotliwość linii Bypass nieprawidłowa</source>
+        <translation>Incorrect bypass line frequency</translation>
+    </message>
+    <message>
+        <source>Ładowarka - za niskie napięcie</source>
+        <translation>Charger - voltage too low</translation>
+    </message>
+    <message>
+        <source>Niski poziom paliwa - Wrn</source>
+        <translation>Low fuel level - Wrn</translation>
+    </message>
+    <message>
+        <source>Niski poziom paliwa - Sd</source>
+        <translation>Low fuel level - Sd</translation>
+    </message>
+    <message>
+        <source>Napięcie akumulatora poza zakresem - Wrn</source>
+        <translation>Battery voltage out of range - Wrn</translation>
+    </message>
+    <message>
+        <source>Błąd alternatora - Wrn</source>
+        <translation>Alternator fault - Wrn</translation>
+    </message>
+    <message>
+        <source>Nadmierna prędkość obrotowa - Sd</source>
+        <translation>Overspeed - Sd</translation>
+    </message>
+    <message>
+        <source>Za mała prędkość obrotowa - Sd</source>
+        <translation>Underspeed - Sd</translation>
+    </message>
+    <message>
+        <source>Błąd uziemienia - Sd</source>
+        <translation>Ground fault - Sd</translation>
+    </message>
+    <message>
+        <source>Alarm ECU - Wrn</source>
+        <translation>ECU alarm - Wrn</translation>
+    </message>
+    <message>
+        <source>Brak komunikacji z ECU - Wrn</source>
+        <translation>No communication with the ECU - Wrn</translation>
+    </message>
+    <message>
+        <source>Niepoprawna kolejność faz agregatu - Wrn</source>
+        <translation>Incorrect genset phase sequence - Wrn</translation>
+    </message>
+    <message>
+        <source>Niepoprawna kolejność faz sieci - Wrn</source>
+        <translation>Incorrect mains phase sequence - Wrn</translation>
+    </message>
+    <message>
+        <source>Przeciążenie - BOC</source>
+        <translation>Overload - BOC</translation>
+    </message>
+    <message>
+        <source>Zwarcie - BOC</source>
+        <translation>Short-circuit - BOC</translation>
+    </message>
+    <message>
+        <source>Niesymetryczne obciążenie faz agregatu - BOC</source>
+        <translation>Unbalanced genset phase load - BOC</translation>
+    </message>
+    <message>
+        <source>Przekroczony limit obciążenia dla IDMT - BOC</source>
+        <translation>IDMT load limit exceeded - BOC</translation>
+    </message>
+    <message>
+        <source>Awaria stycznika w obwodzie agregatu - Sd</source>
+        <translation>Genset contactor failure - Sd</translation>
+    </message>
+    <message>
+        <source>Awaria stycznika w obwodzie sieci - MF</source>
+        <translation>Mains contactor failure - MF</translation>
+    </message>
+    <message>
+        <source>Konieczna wymiana DPF - Wrn</source>
+        <translation>DPF replacement required - Wrn</translation>
+    </message>
+    <message>
+        <source>Napięcie agregatu poza zakresem - SD</source>
+        <translation>Genset voltage out of range - SD</translation>
+    </message>
+    <message>
+        <source>Napięcie agregatu poza zakresem - BOC</source>
+        <translation>Genset voltage out of range - BOC</translation>
+    </message>
+    <message>
+        <source>Niesymetryczne napięcie agregatu - BOC</source>
+        <translation>Unbalanced genset voltage - BOC</translation>
+    </message>
+    <message>
+        <source>Częstotliwość agregatu poza zakresem - BOC</source>
+        <translation>Genset frequency out of range - BOC</translation>
+    </message>
+    <message>
+        <source>Napięcie sieci poza zakresem - MF</source>
+        <translation>Mains voltage out of range - MF</translation>
+    </message>
+    <message>
+        <source>Niesymetryczne napięcie sieci- MF</source>
+        <translation>Unbalanced mains voltage - MF</translation>
+    </message>
+    <message>
+        <source>Częstotliwość sieci poza zakresem - MF</source>
+        <translation>Mains frequency out of range - MF</translation>
+    </message>
+    <message>
+        <source>Awaryjne zatrzymanie - SD</source>
+        <translation>Emergency stop - SD</translation>
+    </message>
+    <message>
+        <source>Rozładowany akumulator - SD</source>
+        <translation>Battery discharged - SD</translation>
+    </message>
+    <message>
+        <source>Serwis - Wrn</source>
+        <translation>Maintenance - Wrn</translation>
+    </message>
+    <message>
+        <source>Nieznany</source>
+        <translation>Unknown</translation>
+    </message>
+    <message>
+        <source>Rezerwowy</source>
+        <translation>Reserve</translation>
+    </message>
+    <message>
+        <source>Sieciowy</source>
+        <translation>Mains</translation>
+    </message>
+    <message>
+        <source>Niski stan baterii</source>
+        <translation>Battery low</translation>
+    </message>
+    <message>
+        <source>AVR</source>
+        <translation>AVR</translation>
+    </message>
+    <message>
+        <source>Przeciążenie</source>
+        <translation>Overload</translation>
+    </message>
+    <message>
+        <source>Zwarcie</source>
+        <translation>Short-circuit</translation>
+    </message>
+    <message>
+        <source>Oczekiwanie</source>
+        <translation>Waiting</translation>
+    </message>
+    <message>
+        <source>Czuwanie</source>
+        <translation>Stand-by</translation>
+    </message>
+    <message>
+        <source>ECO</source>
+        <translation>ECO</translation>
+    </message>
+    <message>
+        <source>Awaryjny</source>
+        <translation>Emergency</translation>
+    </message>
+    <message>
+        <source>Inicjalizacja</source>
+        <translation>Initialization</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>Hybrydowy</source>
+        <translation>Hybrid</translation>
+    </message>
+    <message>
+        <source>Testowanie baterii</source>
+        <translation>Battery test</translation>
+    </message>
+    <message>
+        <source>Konwersja częstotliwości</source>
+        <translation>Converter</translation>
+    </message>
+    <message>
+        <source>Wyłączenie UPS</source>
+        <translation>UPS Shutdown</translation>
+    </message>
+    <message>
+        <source>Tryb błędu</source>
+        <translation>UPS Fault</translation>
+    </message>
+    <message>
+        <source>Włączony</source>
+        <translation>Turned on</translation>
+    </message>
+    <message>
+        <source>Wyłączony</source>
+        <translation>Turned off</translation>
+    </message>
+    <message>
+        <source>Autotest</source>
+        <translation>Autotest</translation>
+    </message>
+    <message>
+        <source>ECO/Bypass</source>
+        <translation>ECO/Bypass</translation>
+    </message>
+</context>
+<context>
+    <name>UpsEventsWindow</name>
+    <message>
+        <source>Tryb pracy - Inicjalizacja</source>
+        <translation>Work mode - Initialization</translation>
+    </message>
+    <message>
+        <source>Tryb pracy - Stop</source>
+        <translation>Work mode - Stop</translation>
+    </message>
+    <message>
+        <source>Tryb pracy - Czuwanie</source>
+        <translation>Work mode - Stand-by</translation>
+    </message>
+    <message>
+        <source>Tryb pracy - ECO</source>
+        <translation>Work mode - ECO</translation>
+    </message>
+    <message>
+        <source>Tryb pracy - Sieciowa</source>
+        <translation>Work mode - Mains</translation>
+    </message>
+    <message>
+        <source>Tryb pracy - Rezerwowa</source>
+        <translation>Work mode - Reserve</translation>
+    </message>
+    <message>
+        <source>Tryb pracy - Hybrydowa</source>
+        <translation>Work mode - Hybrid</translation>
+    </message>
+    <message>
+        <source>Tryb pracy - Awaryjna</source>
+        <translation>Work mode - Emergency</translation>
+    </message>
+    <message>
+        <source>Tryb pracy - Bypass</source>
+        <translation>Work mode - Bypass</translation>
+    </message>
+    <message>
+        <source>Tryb pracy - Oczekiwanie</source>
+        <translation>Work mode - Waiting</translation>
+    </message>
+    <message>
+        <source>Zwarcie</source>
+        <translation>Short-circuit</translation>
+    </message>
+    <message>
+        <source>Przeciążenie</source>
+        <translation>Overload</translation>
+    </message>
+    <message>
+        <source>Nadmierny wzrost temperatury prostownika</source>
+        <translation>Rectifier overtemperature</translation>
+    </message>
+    <message>
+        <source>Nadmierny wzrost temperatury falownika</source>
+        <translation>Inverter overtemperature</translation>
+    </message>
+    <message>
+        <source>Błąd akumulatora</source>
+        <translation>Battery fault</translation>
+    </message>
+    <message>
+        <source>Aktywne EPO</source>
+        <translation>EPO active</translation>
+    </message>
+    <message>
+        <source>Wewnętrzny błąd prostownika</source>
+        <translation>Internal rectifier fault</translation>
+    </message>
+    <message>
+        <source>Błąd wewnętrzny falownika</source>
+        <translation>Internal inverter fault</translation>
+    </message>
+    <message>
+        <source>Błąd pracy równoległej</source>
+        <translation>Parallel operation fault</translation>
+    </message>
+    <message>
+        <source>Ładowanie baterii: Start</source>
+        <translation>Battery charging: Start</translation>
+    </message>
+    <message>
+        <source>Ładowanie baterii: Stop</source>
+        <translation>Battery charging: Stop</translation>
+    </message>
+    <message>
+        <source>Przeciążenie: Start</source>
+        <translation>Overload: Start</translation>
+    </message>
+    <message>
+        <source>Przeciążenie: Stop</source>
+        <translation>Overload: Stop</translation>
+    </message>
+    <message>
+        <source>Nadmierny wzrost temperatury prostownika: Start</source>
+        <translation>Rectifier overtemperature: Start</translation>
+    </message>
+    <message>
+        <source>Nadmierny wzrost temperatury prostownika: Stop</source>
+        <translation>Rectifier overtemperature: Stop</translation>
+    </message>
+    <message>
+        <source>Nadmierny wzrost temperatury falownika: Start</source>
+        <translation>Inverter overtemperature: Start</translation>
+    </message>
+    <message>
+        <source>Nadmierny wzrost temperatury falownika: Stop</source>
+        <translation>Inverter overtemperature: Stop</translation>
+    </message>
+    <message>
+        <source>Oczekiwanie na ładunek minimalny: Start</source>
+        <translation>Waiting for minimum charge: Start</translation>
+    </message>
+    <message>
+        <source>Oczekiwanie na ładunek minimalny: Stop</source>
+        <translation>Waiting for minimum charge: Stop</translation>
+    </message>
+    <message>
+        <source>Stan niskiej baterii: Start</source>
+        <translation>Battery low: Start</translation>
+    </message>
+    <message>
+        <source>Stan niskiej baterii: Stop</source>
+        <translation>Battery low: Stop</translation>
+    </message>
+    <message>
+        <source>Serwis: Start</source>
+        <translation>Maintenance: Start</translation>
+    </message>
+    <message>
+        <source>Serwis: Stop</source>
+        <translation>Maintenance: Stop</translation>
+    </message>
+    <message>
+        <source>Bypass: Start</source>
+        <translation>Bypass: Start</translation>
+    </message>
+    <message>
+        <source>Bypass: Stop</source>
+        <translation>Bypass: Stop</translation>
+    </message>
+    <message>
+        <source>Brak komunikacji z modułem prostownika: Start</source>
+        <translation>No communication with the rectifier module: Start</translation>
+    </message>
+    <message>
+        <source>Brak komunikacji z modułem prostownika: Stop</source>
+        <translation>No communication with the rectifier module: Stop</translation>
+    </message>
+    <message>
+        <source>Brak komunikacji z modułem falownika: Start</source>
+        <translation>No communication with the inverter module: Start</translation>
+    </message>
+    <message>
+        <source>Brak komunikacji z modułem falownika: Stop</source>
+        <translation>No communication with the inverter module: Stop</translation>
+    </message>
+    <message>
+        <source>Niepoprawna kolejność faz linii BYPASS: Start</source>
+        <translation>Incorrect bypass line phase sequence: Start</translation>
+    </message>
+    <message>
+        <source>Niepoprawna kolejność faz linii BYPASS: Stop</source>
+        <translation>Incorrect bypass line phase sequence: Stop</translation>
+    </message>
+    <message>
+        <source>Zasilanie linii BYPASS poza zakresem: Start</source>
+        <translation>Bypass line supply out of range: Start</translation>
+    </message>
+    <message>
+        <source>Zasilanie linii BYPASS poza zakresem: Stop</source>
+        <translation>Bypass line supply out of range: Stop</translation>
+    </message>
+    <message>
+        <source>Otwarty obwód baterii: Start</source>
+        <translation>Battery circuit open: Start</translation>
+    </message>
+    <message>
+        <source>Otwarty obwód baterii: Stop</source>
+        <translation>Battery circuit open: Stop</translation>
+    </message>
+    <message>
+        <source>Zasilanie linii podstawowej poza zakresem: Start</source>
+        <translation>Main line supply out of range: Start</translation>
+    </message>
+    <message>
+        <source>Zasilanie linii podstawowej poza zakresem: Stop</source>
+        <translation>Main line supply out of range: Stop</translation>
+    </message>
+    <message>
+        <source>Niepoprawna kolejność faz linii podstawowej: Start</source>
+        <translation>Incorrect main line phase sequence: Start</translation>
+    </message>
+    <message>
+        <source>Niepoprawna kolejność faz linii podstawowej: Stop</source>
+        <translation>Incorrect main line phase sequence: Stop</translation>
+    </message>
+    <message>
+        <source>Dynamiczna kompensacja mocy biernej aktywna: Start</source>
+        <translation>Dynamic reactive power compensation active: Start</translation>
+    </message>
+    <message>
+        <source>Dynamiczna kompensacja mocy biernej aktywna: Stop</source>
+        <translation>Dynamic reactive power compensation active: Stop</translation>
+    </message>
+    <message>
+        <source>----</source>
+        <translation>----</translation>
+    </message>
+</context>
+<context>
+    <name>VLStatusWidget</name>
+    <message>
+        <source>Połączono z usługą:</source>
+        <translation>Connected to the service:</translation>
+    </message>
+    <message>
+        <source>Niezgodna wersja usługi</source>
+        <translation>Service version mismatch</translation>
+    </message>
+    <message>
+        <source>Trwa łączenie z usługą:</source>
+        <translation>Connecting to the service:</translation>
+    </message>
+    <message>
+        <source>Błąd połączenia z usługą:</source>
+        <translation>Service connection error:</translation>
+    </message>
+    <message>
+        <source>Połączono z UPS</source>
+        <translation>Connected to the UPS</translation>
+    </message>
+    <message>
+        <source>Połączono z agregatem</source>
+        <translation>Connected to the genset</translation>
+    </message>
+    <message>
+        <source>Brak komunikacji z UPS</source>
+        <translation>No communication with the UPS</translation>
+    </message>
+    <message>
+        <source>Brak komunikacji z agregatem</source>
+        <translation>No communication with the genset</translation>
+    </message>
+    <message>
+        <source>Komunikacja z UPS nieznana</source>
+        <translation>UPS communication unknown</translation>
+    </message>
+    <message>
+        <source>Komunikacja z agregatem
+nieznana</source>
+        <translation>Genset communication
+unknown</translation>
+    </message>
+    <message>
+        <source>Wyłączenie za</source>
+        <translation>Shutdown in</translation>
+    </message>
+</context>
+<context>
+    <name>VelmoraWindow</name>
+    <message>
+        <source>&lt;NIEZNANY&gt;</source>
+        <translation>&lt;UNKNOWN&gt;</translation>
+    </message>
+    <message>
+        <source>UPS</source>
+        <translation>UPS</translation>
+    </message>
+    <message>
+        <source>Model UPS</source>
+        <translation>UPS model</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>Znamionowa moc czynna</source>
+        <translation>Rated active power</translation>
+    </message>
+    <message>
+        <source>Tryb pracy UPS</source>
+        <translation>UPS work mode</translation>
+    </message>
+    <message>
+        <source>Stan naładowania akumulatora</source>
+        <translation>Battery charge level</translation>
+    </message>
+    <message>
+        <source>Czas autonomii</source>
+        <translation>Battery runtime</translation>
+    </message>
+    <message>
+        <source>Temperatura wewnętrzna UPS</source>
+        <translation>UPS internal temperature</translation>
+    </message>
+    <message>
+        <source>Konfiguracja UPS</source>
+        <translation>UPS configuration</translation>
+    </message>
+    <message>
+        <source>Agregat</source>
+        <translation>Genset</translation>
+    </message>
+    <message>
+        <source>Typ urządzenia</source>
+        <translation>Device type</translation>
+    </message>
+    <message>
+        <source>Model sterownika</source>
+        <translation>Controller model</translation>
+    </message>
+    <message>
+        <source>Numer seryjny sterownika</source>
+        <translation>Controller serial number</translation>
+    </message>
+    <message>
+        <source>Tryb pracy agregatu</source>
+        <translation>Genset work mode</translation>
+    </message>
+    <message>
+        <source>Poziom paliwa</source>
+        <translation>Fuel level</translation>
+    </message>
+    <message>
+        <source>Całkowite zużycie paliwa</source>
+        <translation>Total fuel consumption</translation>
+    </message>
+    <message>
+        <source>Całkowity czas pracy</source>
+        <translation>Total run time</translation>
+    </message>
+    <message>
+        <source>Konfiguracja agregatu</source>
+        <translation>Genset configuration</translation>
+    </message>
+    <message>
+        <source>Znamionowa moc pozorna</source>
+        <translation>Rated apparent power</translation>
+    </message>
+    <message>
+        <source>Obciążenie</source>
+        <translation>Load</translation>
+    </message>
+    <message>
+        <source>&lt;FONT COLOR=grey&gt;Brak&lt;/FONT&gt;</source>
+        <translation>&lt;FONT COLOR=grey&gt;None&lt;/FONT&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;nieokreślona nazwa&gt;</source>
+        <translation>&lt;unspecified name&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;nieokreślona lokalizacja&gt;</source>
+        <translation>&lt;unspecified location&gt;</translation>
+    </message>
+</context>
+</TS>
