@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "monitor/core/StatusStripView.h"
 #include "monitor/core/IndicatorNames.h"
-#include "monitor/core/PanelVersion.h"
+#include "monitor/core/PanelIdentity.h"
 #include "monitor/core/ShutdownTimersData.h"
 
 #include <QTest>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "monitor/core/StatusStripView.h"
 
-#include "monitor/core/PanelVersion.h"
+#include "monitor/core/PanelIdentity.h"
 
 #include <QCoreApplication>
 #include <QLatin1String>

@@ -12,4 +12,10 @@ namespace Velmora {
     return QStringLiteral(VELMORA_VERSION);
 }
 
+/// Host of the maker's web server, with the manuals and the updates.
+[[nodiscard]] inline QString makerHost()
+{
+    return QStringLiteral("www.velmora.example");
+}
+
 } // namespace Velmora
