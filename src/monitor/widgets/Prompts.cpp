@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Velmora developers
+// SPDX-License-Identifier: MIT
+#include "monitor/widgets/Prompts.h"
+
+#include <QCheckBox>
+#include <QPointer>
+
+namespace Velmora {
+
+namespace {
+
+class MessageBoxPrompts final : public Prompts
+{
+public:
+    Answer ask(QWidget* parent, const Question& question) override
+    {
+        // On the heap: the parent may be deleted, and the box with it, while the question stands.
+        QPointer<QMessageBox> box(
+            new QMessageBox(question.icon, question.title, QString(), question.buttons, parent));
+        box->setTextFormat(Qt::PlainText);
+        box->setText(question.text);
+        box->setDefaultButton(question.defaultButton);
+        if (!question.checkBoxText.isEmpty())
+            box->setCheckBox(new QCheckBox(question.checkBoxText, box));
+        const int result = box->exec();
+        if (!box)
+            return {};
+        const Answer answer{static_cast<QMessageBox::StandardButton>(result),
+                            box->checkBox() && box->checkBox()->isChecked()};
+        delete box;
+        return answer;
+    }
+};
+
+std::unique_ptr<Prompts>& currentPrompts()
+{
+    static std::unique_ptr<Prompts> prompts = std::make_unique<MessageBoxPrompts>();
+    return prompts;
+}
+
+} // namespace
+
+Prompts::~Prompts() = default;
+
+Prompts& Prompts::current()
+{
+    return *currentPrompts();
+}
+
+void Prompts::replace(std::unique_ptr<Prompts> prompts)
+{
+    currentPrompts() = prompts ? std::move(prompts) : std::make_unique<MessageBoxPrompts>();
+}
+
+} // namespace Velmora

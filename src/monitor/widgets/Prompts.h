@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Velmora developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QMessageBox>
+
+#include <memory>
+
+namespace Velmora {
+
+/// A question that blocks until it is answered.
+struct Question
+{
+    QString title;
+    QString text;
+    QMessageBox::Icon icon = QMessageBox::Question;
+    QMessageBox::StandardButtons buttons = QMessageBox::Yes | QMessageBox::No;
+    QMessageBox::StandardButton defaultButton = QMessageBox::NoButton;
+    QString checkBoxText; ///< empty: no check box
+};
+
+struct Answer
+{
+    QMessageBox::StandardButton button = QMessageBox::NoButton;
+    bool checkBoxChecked = false;
+};
+
+/// Every blocking question of the panel goes through here, so that a test can answer in the user's place.
+class Prompts
+{
+public:
+    Prompts() = default;
+    virtual ~Prompts();
+    Q_DISABLE_COPY_MOVE(Prompts)
+
+    /// Messages of the link are handled while the question stands, so whatever the caller holds may be gone
+    /// afterwards. The answer has no button if the program is quitting.
+    virtual Answer ask(QWidget* parent, const Question& question) = 0;
+
+    /// The prompts in force: real boxes unless a test has put its own in their place.
+    [[nodiscard]] static Prompts& current();
+    /// Null brings the real boxes back.
+    static void replace(std::unique_ptr<Prompts> prompts);
+};
+
+} // namespace Velmora
