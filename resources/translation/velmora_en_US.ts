@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="pl">
 <context>
+    <name>DebugWarningWidget</name>
+    <message>
+        <source>TRYB DEBUGGOWANIA</source>
+        <translation>DEBUG MODE</translation>
+    </message>
+</context>
+<context>
     <name>ExtendInformationWindow</name>
     <message>
         <source>Napięcie wejściowe</source>
@@ -364,6 +371,24 @@ UPS module</translation>
     <message>
         <source>Częstotliwość w sieci elektrycznej</source>
         <translation>Mains frequency</translation>
+    </message>
+</context>
+<context>
+    <name>LineEditWidget</name>
+    <message>
+        <source>Dane niedostępne w wybranym modelu</source>
+        <translation>Not available on the selected model</translation>
+    </message>
+    <message>
+        <source>Dane niedostępne przy użyciu wybranego interfejsu komunikacyjnego</source>
+        <translation>Not available over the selected communication interface</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressBarWidget</name>
+    <message>
+        <source>Dane niedostępne w wybranym modelu</source>
+        <translation>Not available on the selected model</translation>
     </message>
 </context>
 <context>
@@ -1245,6 +1270,21 @@ UPS module</translation>
     </message>
 </context>
 <context>
+    <name>UpsTreeWidget</name>
+    <message>
+        <source>Dodaj</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>Edytuj</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <source>Usuń</source>
+        <translation>Remove</translation>
+    </message>
+</context>
+<context>
     <name>VLStatusWidget</name>
     <message>
         <source>Połączono z usługą:</source>
@@ -1291,6 +1331,13 @@ unknown</translation>
     <message>
         <source>Wyłączenie za</source>
         <translation>Shutdown in</translation>
+    </message>
+</context>
+<context>
+    <name>ValueHelpButton</name>
+    <message>
+        <source>Dlaczego brak wartości?</source>
+        <translation>Why is there no value?</translation>
     </message>
 </context>
 <context>
@@ -1390,6 +1437,184 @@ unknown</translation>
     <message>
         <source>&lt;nieokreślona lokalizacja&gt;</source>
         <translation>&lt;unspecified location&gt;</translation>
+    </message>
+    <message>
+        <source>Monitorowane UPSy</source>
+        <translation>Monitored UPSs</translation>
+    </message>
+    <message>
+        <source>Obciążenie L2</source>
+        <translation>Load L2</translation>
+    </message>
+    <message>
+        <source>Obciążenie L3</source>
+        <translation>Load L3</translation>
+    </message>
+    <message>
+        <source>Nazwa i lokalizacja</source>
+        <translation>Name and location</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Komunikaty i alarmy</source>
+        <translation>Messages and alarms</translation>
+    </message>
+    <message>
+        <source>Konfiguracja</source>
+        <translation>Configuration</translation>
+    </message>
+    <message>
+        <source>Informacje rozszerzone</source>
+        <translation>Extended information</translation>
+    </message>
+    <message>
+        <source>Zdarzenia</source>
+        <translation>Events</translation>
+    </message>
+    <message>
+        <source>Konfiguracja aplikacji</source>
+        <translation>Application settings</translation>
+    </message>
+    <message>
+        <source>Konfiguracja zdarzeń</source>
+        <translation>Event policy</translation>
+    </message>
+    <message>
+        <source>Konfiguracja logów</source>
+        <translation>Log settings</translation>
+    </message>
+    <message>
+        <source>Usługa jest zajęta</source>
+        <translation>The service is busy</translation>
+    </message>
+    <message>
+        <source>&amp;Plik</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Informacje</source>
+        <translation>&amp;Information</translation>
+    </message>
+    <message>
+        <source>&amp;Konfiguracja</source>
+        <translation>&amp;Configuration</translation>
+    </message>
+    <message>
+        <source>Pomo&amp;c</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>&amp;Zaloguj jako administrator</source>
+        <translation>&amp;Log in as administrator</translation>
+    </message>
+    <message>
+        <source>&amp;Wyloguj</source>
+        <translation>L&amp;og out</translation>
+    </message>
+    <message>
+        <source>Zmień &amp;hasło administratora</source>
+        <translation>Change administrator &amp;password</translation>
+    </message>
+    <message>
+        <source>Połącz z &amp;usługą</source>
+        <translation>&amp;Connect to service</translation>
+    </message>
+    <message>
+        <source>Za&amp;kończ</source>
+        <translation>E&amp;xit</translation>
+    </message>
+    <message>
+        <source>Infor&amp;macje rozszerzone</source>
+        <translation>&amp;Extended information</translation>
+    </message>
+    <message>
+        <source>Konfiguracja &amp;UPS</source>
+        <translation>&amp;UPS settings</translation>
+    </message>
+    <message>
+        <source>Konfiguracja &amp;aplikacji</source>
+        <translation>&amp;Application settings</translation>
+    </message>
+    <message>
+        <source>Konfiguracja &amp;zdarzeń</source>
+        <translation>&amp;Event policy</translation>
+    </message>
+    <message>
+        <source>Konfiguracja l&amp;ogów</source>
+        <translation>&amp;Log settings</translation>
+    </message>
+    <message>
+        <source>Po&amp;moc online</source>
+        <translation>&amp;Online help</translation>
+    </message>
+    <message>
+        <source>&amp;Sprawdź dostępność aktualizacji</source>
+        <translation>&amp;Check for updates</translation>
+    </message>
+    <message>
+        <source>&amp;O programie</source>
+        <translation>&amp;About</translation>
+    </message>
+    <message>
+        <source>&amp;Pokaż</source>
+        <translation>&amp;Show</translation>
+    </message>
+    <message>
+        <source>&amp;Ukryj</source>
+        <translation>&amp;Hide</translation>
+    </message>
+    <message>
+        <source> [TRYB DEBUGGOWANIA]</source>
+        <translation> [DEBUG MODE]</translation>
+    </message>
+    <message>
+        <source>Komunikat</source>
+        <translation>Message</translation>
+    </message>
+    <message>
+        <source>N/D</source>
+        <translation>N/A</translation>
+    </message>
+    <message>
+        <source>&amp;Zakończ</source>
+        <translation>&amp;Quit</translation>
+    </message>
+    <message>
+        <source>Usuwanie UPS</source>
+        <translation>Remove UPS</translation>
+    </message>
+    <message>
+        <source>Potwierdź usunięcie urządzenia</source>
+        <translation>Confirm the removal of the device</translation>
+    </message>
+    <message>
+        <source>Brak zasilaczy UPS</source>
+        <translation>No UPS</translation>
+    </message>
+    <message>
+        <source>Aktualnie Velmora nie monitoruje żadnego urządzenia.
+
+Dodaj posiadany model UPS do Velmora aby umożliwić jego monitorowanie.
+Velmora, po wcześniejszej konfiguracji zdarzeń, będzie mógł dokonać
+bezpiecznego zamknięcia systemu na wypadek utraty zasilania.
+
+Czy chcesz dodać nowy UPS teraz?
+</source>
+        <translation>Velmora is not monitoring any device at present.
+
+Add your UPS model to Velmora so that it can be monitored.
+Once the event policy is set up, Velmora can shut the system
+down safely when the power fails.
+
+Do you want to add a new UPS now?
+</translation>
+    </message>
+    <message>
+        <source>Nie pokazuj ponownie tego komunikatu</source>
+        <translation>Do not show this message again</translation>
     </message>
 </context>
 </TS>
