@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Velmora developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "link/DeviceRecords.h"
+
+#include <QTreeWidgetItem>
+
+/// One row of the device tree with the device that it stands for.
+class UpsTreeElement final : public QTreeWidgetItem
+{
+public:
+    UpsTreeElement();
+    Q_DISABLE_COPY_MOVE(UpsTreeElement)
+
+    /// Loads the picture only if the row shows another one. An empty path leaves the row without icon.
+    void setIconPath(const QString& path);
+
+    Velmora::Utils::Ups ups; ///< empty for a row that stands for no known device
+    QString modelFullName;   ///< the model's name even where the row shows the user's own name
+
+private:
+    QString m_iconPath;
+};

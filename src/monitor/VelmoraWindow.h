@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: 2026 The Velmora developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "link/DeviceRecords.h"
+#include "monitor/core/ShutdownTimersData.h"
+
+#include <QAction>
+#include <QList>
+#include <QMainWindow>
+#include <QMap>
+#include <QSystemTrayIcon>
+#include <QTimer>
+
+#include <memory>
+
+class DebugWarningWidget;
+class DeviceStatePanel;
+class QLocalServer;
+class QMenu;
+class QMovie;
+class UpsTreeElement;
+class UpsTreeWidget;
+class VLStatusWidget;
+
+namespace Ui {
+class VelmoraWindow;
+}
+
+namespace Velmora {
+class UpsSocketController;
+}
+
+/// The panel's main window and root object: owns the link to the service, the tray icon and every dialog
+/// while it runs. Slots hand on to the pieces that decide and show.
+class VelmoraWindow final : public QMainWindow
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(VelmoraWindow)
+
+public:
+    /// Ends the process with status 1 if another panel runs.
+    explicit VelmoraWindow(QWidget* parent = nullptr);
+    ~VelmoraWindow() override;
+
+signals:
+    /// The first device list of this run was empty. Connected queued, so that the prompt opens after the
+    /// rebuild.
+    void signalEmptyUpsList();
+
+public slots:
+    void onlineHelpButtonClickHandler();
+
+    void upsDeviceState(const QMap<QString, QString>& parameters);
+    void upsConfiguration(const QMap<QString, QString>& parameters);
+    void upsConnected();
+    void upsCommunicationFailed();
+    void upsCommunicationFailedTrigger();
+    void socketError();
+    void socketErrorTrigger();
+    void showMessage(const QVector<QString>& messages);
+    void upsModelMessageReceived(const QVector<Velmora::Utils::Ups>& upsModels);
+    void upsCurrentStatusListMessageReceived(const QVector<Velmora::Utils::currentDeviceStatus>& statuses);
+    void availablePortsMessageReceived(const QList<Velmora::Utils::SerialPort>& ports);
+    void displayDaemonBusy(bool busy);
+    void debugModeEnabled(bool enabled);
+    void serviceVersionReceived(const QString& version);
+    void showCountdownTimer(const QList<QPair<int, int>>& timers);
+
+    void toggleWindow(QSystemTrayIcon::ActivationReason reason);
+    void toggleWindow();
+    void reallyClose();
+    void newLocalInstanceConnection();
+
+    void enableAdministratorButtons();
+    void disableAdministratorButtons();
+    void connectingInProgress();
+
+    void deleteActionHandler(int row);
+    void upsTreeCurrentIndexChangedHandler();
+    void upsTreeExpandedHandler();
+    void clockUpdate();
+    void clockCancel();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private slots:
+    void slotEmptyUpsList();
+
+private:
+    void createStatusStrip();
+    void createDeviceTree();
+    void guardSingleInstance();
+    void createTray();
+    void connectController();
+    void connectTree();
+    void connectForm();
+    void prepareDeviceMessages();
+
+    void setCurrentDevice(UpsTreeElement* element);
+    void setUpsModelText(const QString& text);
+    void setUpsModelImage(const QString& modelName);
+    /// Each unit of a virtual device stands twice in the result; callers only search it.
+    [[nodiscard]] QList<Velmora::Utils::Ups> getAllUps() const;
+    [[nodiscard]] QList<Velmora::Utils::Ups> getAllUpsAssignedToVirtualDevice() const;
+    void showStatus(UpsTreeElement* element, const Velmora::Utils::currentDeviceStatus& status);
+
+    static void setEnabledStatus(bool enabled, const QList<QWidget*>& widgets);
+    static void setEnabledStatus(bool enabled, const QList<QAction*>& actions);
+    void setDeviceFieldsEnabled(bool enabled);
+    void disableDeviceControls();
+    void removeDebugMarker();
+    [[nodiscard]] static QString debugMarker();
+
+    QString applicationTitle;
+    std::unique_ptr<Ui::VelmoraWindow> ui;
+    std::unique_ptr<DeviceStatePanel> m_statePanel;
+    std::unique_ptr<Velmora::UpsSocketController> socketController;
+
+    std::unique_ptr<QMenu> trayMenu;
+    std::unique_ptr<QSystemTrayIcon> trayIcon;
+    QAction* quitAction = nullptr;
+    QAction* toggleAction = nullptr;
+    bool reallyCloseRequested = false;
+    QLocalServer* localServer = nullptr;
+
+    QTimer communicationFailedTimer;
+    QTimer socketErrorTimer;
+    int watchdogInterval = 3000;
+
+    UpsTreeWidget* upsTree = nullptr;
+    std::unique_ptr<QMovie> busyMovie;
+    DebugWarningWidget* debugWarning = nullptr;
+    QTimer* countdownTimer = nullptr;
+    Velmora::ShutdownTimersData shutdownTimers;
+    VLStatusWidget* statusWidget = nullptr;
+
+    bool administratorMode = false;
+    bool showAddUpsPrompt = true;
+    QString notAvailableText;
+
+    Velmora::Utils::Ups currentDevice; ///< outlives rebuilds of the tree and so carries the selection
+    QList<Velmora::Utils::SerialPort> m_serialPorts;
+    QMap<QString, QString> lastDeviceState;
+};
