@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 The Velmora developers
+// SPDX-License-Identifier: MIT
+#include "link/TextHelpers.h"
+#include "service/Logging.h"
+#include "service/server/RequestDispatcher.h"
+
+namespace Velmora::Service {
+
+namespace {
+
+constexpr int mailTestFailed = 2;
+
+void sendApplicationConfiguration(const RequestScope& scope, const Element& /*request*/)
+{
+    KeyValues settings = scope.store().data().application;
+    // The password of the mail account is for administrators only.
+    if (!scope.isAdministrator())
+        settings.insert(QStringLiteral("smtp2_pass"), QString());
+    scope.reply(valuesReply(QLatin1String("application_configuration"), settings));
+}
+
+void saveApplicationConfiguration(const RequestScope& scope, const Element& request)
+{
+    static_cast<void>(scope.change([&request](StoredData& changed) {
+        for (auto entry = changed.application.begin(); entry != changed.application.end(); ++entry) {
+            const QByteArray tag = entry.key().toLatin1();
+            if (const Element* value = request.child(QLatin1String(tag)))
+                entry.value() = value->text;
+        }
+    }));
+}
+
+void reportMailTest(const RequestScope& scope, const Element& /*request*/)
+{
+    scope.reply(mailTestReply(
+        mailTestFailed, {QStringLiteral("This service cannot send mail; the settings were not tested.")}));
+}
+
+void sendAdministratorDigest(const RequestScope& scope, const Element& /*request*/)
+{
+    scope.reply(textReply(QLatin1String("get_password"), scope.store().data().administratorDigest));
+}
+
+void changeAdministratorPassword(const RequestScope& scope, const Element& request)
+{
+    const QString password = request.childText(QLatin1String("new_password"));
+    if (password.isEmpty()) {
+        scope.refuse(QStringLiteral("The new password is empty."));
+        return;
+    }
+    const QString digest = Velmora::Utils::makeMd5(password);
+    if (scope.change([&digest](StoredData& changed) { changed.administratorDigest = digest; }))
+        scope.reply(emptyReply(QLatin1String("admin_password_changed")));
+}
+
+// No answer stands for a client that cannot be reached.
+void sendClientDigest(const RequestScope& scope, const Element& request)
+{
+    const QString address = request.childText(QLatin1String("netclient_address"));
+    const QMap<QString, QString>& digests = scope.store().data().clientDigests;
+    if (digests.contains(address))
+        scope.reply(textReply(QLatin1String("netclient_password"), digests.value(address)));
+    else
+        qCInfo(serviceLog).noquote() << "no network client answers at" << address.left(64);
+}
+
+void changeClientPassword(const RequestScope& scope, const Element& request)
+{
+    const QString address = request.childText(QLatin1String("netclient_address"));
+    if (!scope.store().data().clientDigests.contains(address)) {
+        scope.refuse(QStringLiteral("No network client answers at this address."));
+        return;
+    }
+    const QString digest = Velmora::Utils::makeMd5(request.childText(QLatin1String("password")));
+    if (scope.change([&](StoredData& changed) { changed.clientDigests.insert(address, digest); }))
+        scope.reply(emptyReply(QLatin1String("netclient_password_changed")));
+}
+
+} // namespace
+
+QVector<RequestEntry> administrationRequests()
+{
+    return {
+        {"get_application_configuration", Access::Watch, sendApplicationConfiguration},
+        {"application_configuration", Access::Change, saveApplicationConfiguration},
+        {"smtp2_send_test_mail", Access::Change, reportMailTest},
+        {"get_password", Access::Watch, sendAdministratorDigest},
+        {"change_password", Access::Change, changeAdministratorPassword},
+        {"get_netclient_pass", Access::Watch, sendClientDigest},
+        {"change_netclient_password", Access::Change, changeClientPassword},
+    };
+}
+
+} // namespace Velmora::Service

@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Velmora developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "service/logs/LogBook.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <optional>
+
+class QTcpSocket;
+
+namespace Velmora::Service {
+
+/// Where a connection stands in the log that it is paging through.
+struct LogBookmark
+{
+    int device = 0;
+    LogKind kind = LogKind::Parameters;
+    LogPosition position;
+};
+
+/// One connected panel. Whatever it sends or fails to read costs bounded buffers and at worst this
+/// connection.
+class ClientSession final : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(ClientSession)
+
+public:
+    /// Takes the connected socket over.
+    explicit ClientSession(QTcpSocket* socket, QObject* parent = nullptr);
+    ~ClientSession() override;
+
+    /// Address and port, for the log.
+    [[nodiscard]] QString peer() const { return m_peer; }
+
+    /// Sends one document as one frame in one write. Ends the connection of a panel that does not read.
+    void send(const QByteArray& document);
+    void sendFrame(const QByteArray& frame);
+    void close(const QString& reason);
+
+    /// The device that state, configuration and logs are asked for; 0 until the panel has chosen one.
+    [[nodiscard]] int selectedDevice() const { return m_selectedDevice; }
+    void selectDevice(int id) { m_selectedDevice = id; }
+
+    std::optional<LogBookmark>& logBookmark() { return m_logBookmark; }
+
+signals:
+    void messageReceived(const QString& text);
+    void closed();
+
+private:
+    void readFrames();
+    [[nodiscard]] bool readFrame();
+
+    QTcpSocket* m_socket;
+    QTimer m_idleTimer;
+    QString m_peer;
+    int m_selectedDevice = 0;
+    std::optional<LogBookmark> m_logBookmark;
+    bool m_closed = false;
+};
+
+} // namespace Velmora::Service
