@@ -13,6 +13,9 @@ namespace Velmora {
 /// The text of one message; empty if the blob is not whole and genuine.
 [[nodiscard]] QString decrypt(const QByteArray& blob);
 
+/// The bytes of that text as they were carried, unchecked; empty for the same blobs.
+[[nodiscard]] QByteArray decryptToUtf8(const QByteArray& blob);
+
 /// Base64 text of the enciphered password.
 [[nodiscard]] QString encryptPass(const QString& password);
 

@@ -9,6 +9,9 @@
 #include <QDebug>
 #include <QtEndian>
 
+#include <algorithm>
+#include <array>
+
 namespace Velmora {
 
 namespace {
@@ -53,24 +56,54 @@ QByteArray hashField(const char* payload, int size)
     return hash.result();
 }
 
+constexpr size_t keyLength = 8;
+
+// A local copy of the key: the compiler then knows that the bytes written do not change it.
+std::array<char, keyLength> keyOf(const std::vector<char>& keyParts)
+{
+    std::array<char, keyLength> key{};
+    std::copy_n(keyParts.cbegin(), keyLength, key.begin());
+    return key;
+}
+
 // Each byte is mixed with its key part and the enciphered byte before it.
 void chain(char* bytes, int size, const std::vector<char>& keyParts)
 {
+    const auto key = keyOf(keyParts);
     char last = 0;
     for (int pos = 0; pos < size; ++pos) {
-        last = static_cast<char>(bytes[pos] ^ keyParts[static_cast<size_t>(pos) & 7U] ^ last);
+        last = static_cast<char>(bytes[pos] ^ key[static_cast<size_t>(pos) % keyLength] ^ last);
         bytes[pos] = last;
     }
 }
 
 void unchain(char* bytes, int size, const std::vector<char>& keyParts)
 {
+    const auto key = keyOf(keyParts);
     char last = 0;
     for (int pos = 0; pos < size; ++pos) {
         const char enciphered = bytes[pos];
-        bytes[pos] = static_cast<char>(enciphered ^ keyParts[static_cast<size_t>(pos) & 7U] ^ last);
+        bytes[pos] = static_cast<char>(enciphered ^ key[static_cast<size_t>(pos) % keyLength] ^ last);
         last = enciphered;
     }
+}
+
+// Moves `payload` behind its integrity field. False if the field is cut short or does not fit the payload.
+bool takeIntegrityField(quint8 flags, const char*& payload, int& size)
+{
+    // The checksum wins when both flags are set.
+    const bool checksum = (flags & flagChecksum) != 0;
+    if (!checksum && (flags & flagHash) == 0)
+        return true;
+    const int fieldSize = checksum ? checksumSize : hashSize;
+    if (size < fieldSize)
+        return false;
+    const char* field = payload;
+    payload += fieldSize;
+    size -= fieldSize;
+    if (checksum)
+        return qFromBigEndian<quint16>(field) == qChecksum(payload, static_cast<uint>(size));
+    return hashField(payload, size) == QByteArray::fromRawData(field, fieldSize);
 }
 
 } // namespace
@@ -95,7 +128,7 @@ void SimpleCrypt::setKey(unsigned long long key)
 
 void SimpleCrypt::splitKey()
 {
-    m_keyParts.resize(8);
+    m_keyParts.resize(keyLength);
     for (size_t i = 0; i < m_keyParts.size(); ++i)
         m_keyParts[i] = static_cast<char>((m_key >> (8 * i)) & 0xFF);
 }
@@ -187,24 +220,9 @@ QByteArray SimpleCrypt::decryptToByteArray(QByteArray cypher)
     const char* payload = cypher.constData() + headerSize + randomByteSize;
     int size = cypher.size() - headerSize - randomByteSize;
 
-    // The checksum wins when both flags are set.
-    const int integritySize = (flags & flagChecksum) != 0 ? checksumSize
-                              : (flags & flagHash) != 0   ? hashSize
-                                                          : 0;
-    if (integritySize > 0) {
-        if (size < integritySize) {
-            m_lastError = Error::IntegrityFailed;
-            return {};
-        }
-        const QByteArray stored = QByteArray::fromRawData(payload, integritySize);
-        payload += integritySize;
-        size -= integritySize;
-        const QByteArray computed =
-            integritySize == checksumSize ? checksumField(payload, size) : hashField(payload, size);
-        if (stored != computed) {
-            m_lastError = Error::IntegrityFailed;
-            return {};
-        }
+    if (!takeIntegrityField(flags, payload, size)) {
+        m_lastError = Error::IntegrityFailed;
+        return {};
     }
     if ((flags & flagCompressed) != 0)
         return unpack(payload, size);

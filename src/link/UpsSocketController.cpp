@@ -4,11 +4,11 @@
 
 #include "link/Cipher.h"
 #include "link/Frame.h"
+#include "link/MessageReader.h"
 #include "link/Sleep.h"
 #include "link/VelmoraSocket.h"
 
 #include <QTimer>
-#include <QXmlStreamReader>
 
 namespace Velmora {
 
@@ -180,7 +180,7 @@ void UpsSocketController::readMessage()
         const int announced = Utils::getMessegaSize(socket->read(Utils::frameHeaderSize));
         // Asking for no more than has arrived gives the same bytes and reserves nothing by an announced size.
         const qint64 size = qBound<qint64>(0, announced, socket->bytesAvailable());
-        QXmlStreamReader reader(decrypt(socket->read(size)));
+        QXmlStreamReader reader = readMessageText(socket->read(size));
         if (!handleMessage(reader))
             return;
     }
