@@ -3,9 +3,10 @@
 #include "link/Cipher.h"
 #include "link/Frame.h"
 #include "link/LinkKeys.h"
+#include "link/PlainText.h"
 #include "link/SimpleCrypt.h"
 #include "link/Unpack.h"
-#include "support/ProcessMemory.h"
+#include "support/AddressSpaceWatch.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -106,6 +107,7 @@ private slots:
     void keepsThePlainFormOnATie();
     void obeysItsModes();
     void cutsAtNulAndMendsBadText();
+    void tellsPlainTextFromTheRest();
     void carriesPasswordsAsBase64();
     void unpacksWithinBounds_data();
     void unpacksWithinBounds();
@@ -170,12 +172,12 @@ void CodecTest::refusesBrokenBlobs()
 {
     QFETCH(QByteArray, blob);
     QFETCH(int, error);
-    const qint64 before = Tests::peakAddressSpace();
+    const Tests::AddressSpaceWatch memory;
     SimpleCrypt crypt(messageKey);
     QCOMPARE(crypt.decryptToByteArray(blob), QByteArray());
     QCOMPARE(static_cast<int>(crypt.lastError()), error);
     QCOMPARE(decrypt(blob), QString());
-    QVERIFY(Tests::peakAddressSpace() - before < 64);
+    QVERIFY(memory.grown() < 4);
 }
 
 void CodecTest::noticesEveryFlippedByte()
@@ -245,6 +247,24 @@ void CodecTest::cutsAtNulAndMendsBadText()
     QCOMPARE(decrypt(encrypt(QByteArray::fromRawData("<a/>rest", 4))), QStringLiteral("<a/>"));
 }
 
+void CodecTest::tellsPlainTextFromTheRest()
+{
+    QVERIFY(isPlainText(QByteArray("<a>zażółć gęślą jaźń – 5 €</a>")));
+    // Each border of the encoding before and behind each other: what is called plain is unchanged by QString.
+    const QByteArray borders = QByteArray::fromHex("00417f808f909fa0bbbfc0c1c2dfe0e1ecedeeeff0f4f5ff");
+    int plain = 0;
+    for (int i = 0; i < 1 << 20; ++i) {
+        QByteArray text("<>....>");
+        for (int digit = 0, rest = i; digit < 4; ++digit, rest >>= 5)
+            text[2 + digit] = borders.at((rest & 31) % borders.size());
+        if (!isPlainText(text))
+            continue;
+        ++plain;
+        QCOMPARE(QString::fromUtf8(text).toUtf8(), text);
+    }
+    QVERIFY(plain > 0);
+}
+
 void CodecTest::carriesPasswordsAsBase64()
 {
     const QString password = QStringLiteral("zażółć \"gęślą\" & jaźń");
@@ -289,12 +309,10 @@ void CodecTest::unpacksWithinBounds()
     QFETCH(int, memoryLimit);
     SimpleCrypt crypt(messageKey);
     const QByteArray blob = blobOfPacked(payload);
-    const qint64 before = Tests::peakAddressSpace();
-    QVERIFY(before > 0);
+    const Tests::AddressSpaceWatch memory;
     QCOMPARE(crypt.decryptToByteArray(blob).size(), unpackedSize);
     QCOMPARE(crypt.lastError(), Error::NoError);
-    const qint64 grown = Tests::peakAddressSpace() - before;
-    QVERIFY2(grown <= memoryLimit, qPrintable(QString::number(grown)));
+    QVERIFY2(memory.grown() <= memoryLimit, qPrintable(QString::number(memory.grown())));
 }
 
 void CodecTest::frameSizes_data()
