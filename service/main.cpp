@@ -3,7 +3,7 @@
 #include "link/ServiceEndpoint.h"
 #include "service/Logging.h"
 #include "service/Options.h"
-#include "service/Service.h"
+#include "service/ReferenceService.h"
 #include "service/TerminationSignals.h"
 
 #include <QCoreApplication>
@@ -48,7 +48,7 @@ int main(int argc, char** argv)
     QObject::connect(&terminationSignals, &TerminationSignals::terminationRequested, &application,
                      &QCoreApplication::quit);
 
-    Service service;
+    ReferenceService service;
     QString reason;
     if (!service.start(commandLine.options, reason))
         return fail(reason);

@@ -36,7 +36,10 @@ SimulationClock realClock(double speed)
 {
     QElapsedTimer timer;
     timer.start();
-    return SimulationClock{QDateTime::currentDateTime(), speed, [timer] { return timer.elapsed(); }};
+    // A fixed offset: local time would look up the time zone again in every second simulated.
+    const QDateTime now = QDateTime::currentDateTime();
+    return SimulationClock{now.toOffsetFromUtc(now.offsetFromUtc()), speed,
+                           [timer] { return timer.elapsed(); }};
 }
 
 SimulatedBackend::SimulatedBackend(const Scenario& scenario, quint64 seed, const SimulationClock& clock,

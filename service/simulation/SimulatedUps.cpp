@@ -138,9 +138,8 @@ void SimulatedUps::enterMode(WorkMode mode, const QDateTime& when)
 
 void SimulatedUps::useBattery()
 {
-    const UpsReadings now = readings();
-    if (now.isDischarging()) {
-        m_battery.drain(now.outputWatts(), 1.0);
+    if (m_mode == WorkMode::Battery || m_mode == WorkMode::BatteryTest) {
+        m_battery.drain(readings().outputWatts(), 1.0);
         ++m_secondsOnBattery;
         ++m_totalSecondsOnBattery;
     } else if (m_mainsPresent) {

@@ -1,17 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Velmora developers
 // SPDX-License-Identifier: MIT
-#include "service/Service.h"
+#include "service/ReferenceService.h"
 
 #include "link/ServiceEndpoint.h"
 #include "service/Logging.h"
 
 namespace Velmora::Service {
 
-Service::Service() = default;
+ReferenceService::ReferenceService() = default;
 
-Service::~Service() = default;
+ReferenceService::~ReferenceService() = default;
 
-bool Service::start(const Options& options, QString& reason)
+bool ReferenceService::start(const Options& options, QString& reason)
 {
     const std::optional<Scenario> scenario = readScenario(options.scenarioPath, reason);
     if (!scenario || !m_store.open(options.statePath, scenario->initial, reason))
@@ -29,7 +29,7 @@ bool Service::start(const Options& options, QString& reason)
     return true;
 }
 
-bool Service::listen(const QHostAddress& address, QString& reason)
+bool ReferenceService::listen(const QHostAddress& address, QString& reason)
 {
     QString detail;
     if (!m_server->listen(address, detail)) {

@@ -13,12 +13,12 @@
 namespace Velmora::Service {
 
 /// The whole service: reads its files, simulates and serves until it is destroyed.
-class Service final
+class ReferenceService final
 {
 public:
-    Service();
-    ~Service();
-    Q_DISABLE_COPY_MOVE(Service)
+    ReferenceService();
+    ~ReferenceService();
+    Q_DISABLE_COPY_MOVE(ReferenceService)
 
     /// Starts to serve. False and one line that names what is wrong if it cannot.
     [[nodiscard]] bool start(const Options& options, QString& reason);
