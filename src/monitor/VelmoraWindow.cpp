@@ -45,7 +45,7 @@ VelmoraWindow::VelmoraWindow(QWidget* parent)
     createDeviceTree();
     guardSingleInstance();
     createTray();
-    socketController = std::make_unique<UpsSocketController>();
+    socketController = std::make_unique<UpsSocketController>(this);
     connectController();
     communicationFailedTimer.setObjectName(QStringLiteral("communicationFailedTimer"));
     socketErrorTimer.setObjectName(QStringLiteral("socketErrorTimer"));

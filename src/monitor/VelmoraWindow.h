@@ -125,8 +125,8 @@ private:
     bool reallyCloseRequested = false;
     QLocalServer* localServer = nullptr;
 
-    QTimer communicationFailedTimer;
-    QTimer socketErrorTimer;
+    QTimer communicationFailedTimer{this};
+    QTimer socketErrorTimer{this};
     int watchdogInterval = 3000;
 
     UpsTreeWidget* upsTree = nullptr;
