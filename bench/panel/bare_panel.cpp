@@ -3,7 +3,7 @@
 
 // What the panel is measured against: its window as a bare Qt program would show it, with the same style,
 // font, style sheet, splash, form and number of widgets, without logic and with Qt's defaults. With
-// --changing every visible value changes once a second.
+// --changing every field of the state panel changes once a second.
 
 #include "ui_VelmoraWindow.h"
 
@@ -34,15 +34,10 @@ public:
         m_form.setupUi(this);
         fillTree();
         addLabels(new QVBoxLayout(m_form.statusBox), statusLabels, QStringLiteral("Status"));
-        m_form.upsModel->setPixmap(QPixmap(QStringLiteral(":/devices/images/devices/tarvexrt.png")));
+        m_form.upsModel->setPixmap(QPixmap(QStringLiteral(":/devices/images/devices/tarvex33.png")));
         m_form.busyLabel->hide();
         m_form.horizontalLayout_2->addStretch();
         addLabels(m_form.horizontalLayout_2, warningLabels, QString());
-        // What the panel hides for a single-phase device.
-        for (QWidget* widget : std::initializer_list<QWidget*>{
-                 m_form.upsEventsButton, m_form.loadLabel_2, m_form.loadProgressBar_2, m_form.loadLabel_3,
-                 m_form.loadProgressBar_3, m_form.nameAndLocationLabel, m_form.nameAndLocalizationEdit})
-            widget->hide();
         setFixedSize(size());
         showValues();
     }
@@ -51,13 +46,16 @@ public:
     {
         ++m_step;
         const QString text = QString::number(m_step) + QLatin1String(" W");
-        m_form.modelNameEdit->setText(text);
+        for (QLineEdit* edit : {m_form.modelNameEdit, m_form.nameAndLocalizationEdit})
+            edit->setText(text);
         for (LineEditWidget* field :
              {m_form.firmwareEdit, m_form.nominalActivePowerEdit, m_form.nominalSpuriousPowerEdit,
               m_form.workModeEdit, m_form.autonomyTimeEdit, m_form.temperatureEdit})
             field->lineEdit->setText(text);
-        for (ProgressBarWidget* field : {m_form.loadProgressBar, m_form.batteryStateProgressBar})
+        for (ProgressBarWidget* field : {m_form.loadProgressBar, m_form.loadProgressBar_2,
+                                         m_form.loadProgressBar_3, m_form.batteryStateProgressBar})
             field->progressBar->setValue(m_step % 100);
+        m_form.deviceMessages->setPlainText(text);
     }
 
 private:
