@@ -9,6 +9,10 @@
 #include <QJsonDocument>
 #include <QSet>
 
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+
 // Resources of a static library reach the program only when they are asked for.
 static void initializeScenarioResource()
 {
@@ -21,10 +25,70 @@ namespace {
 
 constexpr int longestWarmUp = 24 * 3600;
 
+struct Field
+{
+    const char* name;
+    QJsonValue::Type type;
+};
+
+constexpr Field scenarioFields[] = {
+    {"warm_up", QJsonValue::Double},     {"debugging", QJsonValue::Bool}, {"feeds", QJsonValue::Array},
+    {"serial_ports", QJsonValue::Array}, {"clients", QJsonValue::Array},  {"computers", QJsonValue::Array},
+    {"policies", QJsonValue::Object},    {"devices", QJsonValue::Array},
+};
+
+constexpr Field feedFields[] = {
+    {"name", QJsonValue::String},     {"first_failure", QJsonValue::Double}, {"interval", QJsonValue::Double},
+    {"duration", QJsonValue::Double}, {"countdown", QJsonValue::Double},
+};
+
+constexpr Field clientFields[] = {
+    {"address", QJsonValue::String},
+    {"password", QJsonValue::String},
+};
+
+constexpr Field profileFields[] = {
+    {"feed", QJsonValue::String},
+    {"answers", QJsonValue::Bool},
+    {"proper", QJsonValue::Bool},
+    {"steady", QJsonValue::Bool},
+    {"load", QJsonValue::Array},
+    {"nominal_watts", QJsonValue::Double},
+    {"nominal_volt_amperes", QJsonValue::Double},
+    {"charge", QJsonValue::Double},
+    {"input_voltage", QJsonValue::Double},
+    {"worn_battery", QJsonValue::Bool},
+    {"parallel_unit", QJsonValue::Bool},
+    {"master", QJsonValue::Bool},
+    {"unit_address", QJsonValue::String},
+    {"power_compensation", QJsonValue::Bool},
+    {"output_sockets", QJsonValue::Double},
+    {"shutdown_supported", QJsonValue::Bool},
+    {"messages", QJsonValue::Array},
+    {"values", QJsonValue::Object},
+};
+
+/// Names the first field that is misspelt or of another type; empty if there is none.
+template <std::size_t count>
+QString fieldFault(const QJsonObject& object, const Field (&fields)[count])
+{
+    for (auto entry = object.constBegin(); entry != object.constEnd(); ++entry) {
+        const auto* known = std::find_if(std::begin(fields), std::end(fields), [&entry](const Field& field) {
+            return entry.key() == QLatin1String(field.name);
+        });
+        if (known == std::end(fields))
+            return QStringLiteral("unknown field \"%1\"").arg(entry.key());
+        if (entry.value().type() != known->type)
+            return QStringLiteral("field \"%1\" has the wrong type").arg(entry.key());
+    }
+    return {};
+}
+
 QStringList textList(const QJsonValue& value)
 {
     QStringList list;
-    for (const QJsonValue& entry : value.toArray())
+    const QJsonArray entries = value.toArray();
+    for (const QJsonValue& entry : entries)
         list.append(entry.toString());
     return list;
 }
@@ -36,7 +100,8 @@ DeviceProfile profileFromJson(const QJsonObject& object)
     profile.answers = object.value(QLatin1String("answers")).toBool(true);
     profile.proper = object.value(QLatin1String("proper")).toBool(true);
     profile.steady = object.value(QLatin1String("steady")).toBool(false);
-    for (const QJsonValue& load : object.value(QLatin1String("load")).toArray())
+    const QJsonArray loads = object.value(QLatin1String("load")).toArray();
+    for (const QJsonValue& load : loads)
         profile.load.append(load.toDouble());
     profile.nominalWatts = object.value(QLatin1String("nominal_watts")).toInt();
     profile.nominalVoltAmperes = object.value(QLatin1String("nominal_volt_amperes")).toInt();
@@ -61,6 +126,9 @@ class ScenarioReader final
 public:
     std::optional<Scenario> read(const QJsonObject& object)
     {
+        const QString fault = fieldFault(object, scenarioFields);
+        if (!fault.isEmpty())
+            return fail(fault);
         m_scenario.debugging = object.value(QLatin1String("debugging")).toBool(false);
         m_scenario.warmUp = object.value(QLatin1String("warm_up")).toInt(0);
         if (m_scenario.warmUp < 0 || m_scenario.warmUp > longestWarmUp)
@@ -100,8 +168,12 @@ private:
 
 bool ScenarioReader::readFeeds(const QJsonObject& object)
 {
-    for (const QJsonValue& value : object.value(QLatin1String("feeds")).toArray()) {
+    const QJsonArray values = object.value(QLatin1String("feeds")).toArray();
+    for (const QJsonValue& value : values) {
         const QJsonObject entry = value.toObject();
+        const QString fault = fieldFault(entry, feedFields);
+        if (!fault.isEmpty())
+            return failed(QStringLiteral("a feed: ") % fault);
         MainsFeed feed;
         feed.name = entry.value(QLatin1String("name")).toString();
         feed.firstFailure = entry.value(QLatin1String("first_failure")).toInt(-1);
@@ -125,7 +197,8 @@ bool ScenarioReader::readDevices(const QJsonObject& object)
     const QJsonValue devices = object.value(QLatin1String("devices"));
     if (!devices.isArray())
         return failed(QStringLiteral("\"devices\" is not a list"));
-    for (const QJsonValue& value : devices.toArray()) {
+    const QJsonArray values = devices.toArray();
+    for (const QJsonValue& value : values) {
         const QString place =
             QStringLiteral("entry %1 of \"devices\"").arg(m_scenario.initial.devices.size() + 1);
         if (!readDevice(value.toObject(), place))
@@ -139,9 +212,20 @@ bool ScenarioReader::readDevice(const QJsonObject& object, const QString& place)
     const std::optional<DeviceRegistration> device = registrationFromJson(object);
     if (!device)
         return failed(place % QStringLiteral(" needs an \"id\" above 0 and a \"model_name\""));
+    const QStringList names = object.keys();
+    for (const QString& name : names) {
+        if (!isRegistrationField(name) && name != QLatin1String("simulation"))
+            return failed(place % QStringLiteral(": unknown field \"%1\"").arg(name));
+    }
     if (m_ids.contains(device->id))
         return failed(place % QStringLiteral(" repeats the id %1").arg(device->id));
-    const DeviceProfile profile = profileFromJson(object.value(QLatin1String("simulation")).toObject());
+    const QJsonValue simulation = object.value(QLatin1String("simulation"));
+    if (!simulation.isUndefined() && !simulation.isObject())
+        return failed(place % QStringLiteral(": \"simulation\" is not an object"));
+    const QString fault = fieldFault(simulation.toObject(), profileFields);
+    if (!fault.isEmpty())
+        return failed(place % QStringLiteral(": ") % fault);
+    const DeviceProfile profile = profileFromJson(simulation.toObject());
     const auto hasName = [&profile](const MainsFeed& feed) { return feed.name == profile.feed; };
     const bool knownFeed = std::any_of(m_scenario.feeds.cbegin(), m_scenario.feeds.cend(), hasName);
     if (!profile.feed.isEmpty() && !knownFeed)
@@ -155,8 +239,12 @@ bool ScenarioReader::readDevice(const QJsonObject& object, const QString& place)
 
 bool ScenarioReader::readClients(const QJsonObject& object)
 {
-    for (const QJsonValue& value : object.value(QLatin1String("clients")).toArray()) {
+    const QJsonArray values = object.value(QLatin1String("clients")).toArray();
+    for (const QJsonValue& value : values) {
         const QJsonObject entry = value.toObject();
+        const QString fault = fieldFault(entry, clientFields);
+        if (!fault.isEmpty())
+            return failed(QStringLiteral("a client: ") % fault);
         const SimulatedClient client{entry.value(QLatin1String("address")).toString(),
                                      entry.value(QLatin1String("password")).toString()};
         if (client.address.isEmpty())

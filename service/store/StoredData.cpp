@@ -4,6 +4,9 @@
 
 #include <QJsonArray>
 
+#include <algorithm>
+#include <iterator>
+
 namespace Velmora::Service {
 
 namespace {
@@ -131,7 +134,8 @@ bool readDevices(const QJsonObject& object, StoredData& data, QString& reason)
         reason = QStringLiteral("\"devices\" is not a list");
         return false;
     }
-    for (const QJsonValue& value : devices.toArray()) {
+    const QJsonArray values = devices.toArray();
+    for (const QJsonValue& value : values) {
         const std::optional<DeviceRegistration> device = registrationFromJson(value.toObject());
         if (!device) {
             reason = QStringLiteral("entry %1 of \"devices\" is not a device").arg(data.devices.size() + 1);
@@ -203,11 +207,20 @@ std::optional<DeviceRegistration> registrationFromJson(const QJsonObject& object
             return std::nullopt;
         device.*field.member = value.toInt(device.*field.member);
     }
-    for (const QJsonValue& member : object.value(QLatin1String("phy_ids")).toArray())
+    const QJsonArray members = object.value(QLatin1String("phy_ids")).toArray();
+    for (const QJsonValue& member : members)
         device.physicalIds.append(member.toInt());
     if (device.id <= 0 || device.modelName.isEmpty())
         return std::nullopt;
     return device;
+}
+
+bool isRegistrationField(const QString& name)
+{
+    const auto hasName = [&name](const auto& field) { return name == QLatin1String(field.name); };
+    return name == QLatin1String("phy_ids") ||
+           std::any_of(std::begin(textFields), std::end(textFields), hasName) ||
+           std::any_of(std::begin(numberFields), std::end(numberFields), hasName);
 }
 
 QVector<Element> elementsFromJson(const QJsonValue& value)

@@ -38,6 +38,8 @@ struct StoredData
 
 /// Registration from its JSON form; nothing if a field has the wrong type or the id is no positive number.
 [[nodiscard]] std::optional<DeviceRegistration> registrationFromJson(const QJsonObject& object);
+/// The name is a field of that form.
+[[nodiscard]] bool isRegistrationField(const QString& name);
 [[nodiscard]] QVector<Element> elementsFromJson(const QJsonValue& value);
 
 [[nodiscard]] QJsonObject toJson(const StoredData& data);

@@ -138,6 +138,12 @@ void StoreTest::brokenScenarioIsNamed_data()
         << "unknown feed";
     QTest::newRow("failure longer than its interval")
         << QByteArray(R"({"feeds":[{"name":"f","interval":5,"duration":6}],"devices":[]})") << "\"f\"";
+    QTest::newRow("misspelt field of a registration")
+        << QByteArray(R"({"devices":[{"id":1,"model_name":"A","comport":"x"}]})") << "\"comport\"";
+    QTest::newRow("misspelt field of a simulation")
+        << QByteArray(R"({"devices":[{"id":1,"model_name":"A","simulation":{"laod":[5]}}]})") << "\"laod\"";
+    QTest::newRow("number for a flag")
+        << QByteArray(R"({"devices":[{"id":1,"model_name":"A","simulation":{"steady":1}}]})") << "\"steady\"";
     QTest::newRow("warm-up of a year") << QByteArray(R"({"warm_up":31536000,"devices":[]})") << "warm_up";
 }
 
