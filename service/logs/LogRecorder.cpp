@@ -15,7 +15,7 @@ constexpr int dataBit = 1;
 constexpr int messagesBit = 2;
 constexpr int compensationBit = 4;
 // However large a registration wants its file, the service keeps this much in memory.
-constexpr qint64 maximumBookBytes = 1024 * 1024;
+constexpr qint64 maximumBookBytes = qint64{1024} * 1024;
 
 // What is logged of a device, as far as it reports it, in the order of the columns.
 constexpr const char* loggedKeys[] = {

@@ -16,7 +16,7 @@ namespace {
 
 constexpr int sizeBytes = 4;
 constexpr int largestRequest = 1024 * 1024;
-constexpr qint64 largestBacklog = 1024 * 1024;
+constexpr qint64 largestBacklog = qint64{1024} * 1024;
 // A panel polls every second; a peer that says nothing for this long only holds a place.
 constexpr int idleMilliseconds = 120000;
 // After so many requests in a row the other panels get their turn.

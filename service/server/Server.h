@@ -20,9 +20,7 @@ public:
 
     /// False and a reason if the address cannot be had.
     [[nodiscard]] bool listen(const QHostAddress& address, QString& reason);
-    [[nodiscard]] int connectionCount() const { return m_sessions.size(); }
-
-public slots:
+    /// Tells all panels of the network clients, as these do when they hear a probe.
     void announceClients();
 
 private:

@@ -25,6 +25,16 @@ quint64 deviceSeed(quint64 seed, int id)
     return mixed ^ (mixed >> 31);
 }
 
+// A device that was registered while the service ran is equipped as its family usually is.
+DeviceProfile usualProfile(const DeviceRegistration& registration)
+{
+    DeviceProfile profile;
+    const DeviceFamily& family = familyOf(registration.modelName);
+    profile.parallelUnit = family.kind == DeviceKind::Ups && family.phases == 3;
+    profile.outputSockets = registration.modelName.startsWith(QLatin1String("CormelRT")) ? 2 : 0;
+    return profile;
+}
+
 } // namespace
 
 qint64 SimulationClock::second() const
@@ -74,9 +84,10 @@ void SimulatedBackend::setDevices(const QVector<DeviceRegistration>& registratio
             known->second->setRegistration(registration);
             devices[registration.id] = std::move(known->second);
         } else {
-            devices[registration.id] =
-                makeDevice(DeviceSetup{registration, m_scenario.profiles.value(registration.id),
-                                       settings.value(registration.id), deviceSeed(m_seed, registration.id)});
+            const DeviceProfile profile =
+                m_scenario.profiles.value(registration.id, usualProfile(registration));
+            devices[registration.id] = makeDevice(DeviceSetup{
+                registration, profile, settings.value(registration.id), deviceSeed(m_seed, registration.id)});
         }
         m_order.append(registration.id);
     }

@@ -64,7 +64,7 @@ DeviceStatus SimulatedDevice::status() const
 
 SettingOutcome SimulatedDevice::applySetting(const QString& key, const QString& value)
 {
-    const SettingOutcome outcome = m_settings.apply(key, value);
+    SettingOutcome outcome = m_settings.apply(key, value);
     if (outcome.accepted) {
         const QByteArray name = key.toLatin1();
         settingApplied(QLatin1String(name), value);
