@@ -9,7 +9,7 @@ class QTranslator;
 /// The steps before the main window, in the order in which main takes them.
 namespace Velmora::Startup {
 
-/// Style, codec and display plugin: must run before the application object exists.
+/// Heap, style, codec and display plugin: must run before the application object exists.
 void prepareApplication();
 
 /// The panel's font in the size of the desktop's.
