@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: 2026 The Velmora developers
+// SPDX-License-Identifier: MIT
+#include "monitor/WindowFixture.h"
+
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTest>
+
+using namespace Velmora::Tests;
+
+namespace {
+
+constexpr int patience = 10000;
+
+/// The reference service with the scenario that is compiled into it.
+class Service final
+{
+public:
+    [[nodiscard]] bool start()
+    {
+        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        m_process.start(QStringLiteral(VELMORA_SERVICE_PROGRAM),
+                        {QStringLiteral("--listen"), ScriptedService::testAddress(), QStringLiteral("--seed"),
+                         QStringLiteral("7"), QStringLiteral("--log-level"), QStringLiteral("error")});
+        return m_process.waitForStarted();
+    }
+    [[nodiscard]] bool stop()
+    {
+        m_process.terminate();
+        return m_process.waitForFinished() && m_process.exitStatus() == QProcess::NormalExit;
+    }
+
+private:
+    QProcess m_process;
+};
+
+} // namespace
+
+/// The real window against the real service, each as it ships, over the real port.
+class EndToEndTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void panelFollowsTheServiceThroughLossAndReturn();
+};
+
+void EndToEndTest::initTestCase()
+{
+    Q_INIT_RESOURCE(velmora);
+}
+
+void EndToEndTest::panelFollowsTheServiceThroughLossAndReturn()
+{
+    Service service;
+    QVERIFY(service.start());
+    WindowFixture panel;
+    panel.window = std::make_unique<VelmoraWindow>();
+    panel.window->show();
+    // The service may still be on its way to the port when the first attempt is made.
+    if (QTimer* attempts = panel.timer("reconnectTimer"))
+        attempts->setInterval(50);
+    const auto select = [&panel](const char* name) {
+        UpsTreeElement* row = panel.row(QString::fromUtf8(name));
+        if (row)
+            panel.tree()->setCurrentItem(row);
+        return row != nullptr;
+    };
+    const auto shows = [&panel](const char* name, const char* pattern) {
+        const QRegularExpression expression(QRegularExpression::anchoredPattern(QString::fromUtf8(pattern)));
+        return expression.match(panel.shown(name)).hasMatch();
+    };
+    constexpr char percent[] = "\\d+ % \\[\\d+\\]";
+
+    QTRY_COMPARE_WITH_TIMEOUT(panel.tree()->allElements().size(), std::size_t(12), patience);
+    QStringList rows;
+    for (const UpsTreeElement* row : panel.tree()->allElements())
+        rows.append(row->parent() ? QLatin1Char('+') + row->text(0) : row->text(0));
+    QCOMPARE(rows.join(QLatin1Char('|')),
+             QStringLiteral("Serwerownia|+Serwerownia A|+Serwerownia B|Hala produkcyjna|Tarvex RT (USB)|"
+                            "Sieć biurowa|Portiernia|Kasa|Agregat|Magazyn|Quenta (USB)|<NIEZNANY>"));
+
+    // Before any selection the row of unknown model, which counts as device 0, is taken for the selected one.
+    QVERIFY(select("Serwerownia"));
+    QTRY_VERIFY_WITH_TIMEOUT(shows("loadProgressBar", percent), patience);
+    QCOMPARE(panel.shown("modelNameEdit"), QStringLiteral("Wirtualny UPS"));
+    QCOMPARE(panel.shown("serviceTitle"), QStringLiteral("Połączono z usługą:"));
+    QTRY_COMPARE(panel.shown("serviceNote"), QStringLiteral("-"));
+    QTRY_VERIFY(panel.rowShows(panel.row(QStringLiteral("Serwerownia A")), "green_m"));
+    QTRY_VERIFY(panel.rowShows(panel.row(QStringLiteral("Magazyn")), "red"));
+
+    QVERIFY(select("Hala produkcyjna"));
+    QCOMPARE(panel.shown("loadLabel"), QStringLiteral("Obciążenie L1"));
+    QTRY_VERIFY_WITH_TIMEOUT(shows("firmwareEdit", "\\S.*") && shows("nominalActivePowerEdit", "\\d+ kW"),
+                             patience);
+    for (const char* bar : {"loadProgressBar", "loadProgressBar_2", "loadProgressBar_3"})
+        QVERIFY2(shows(bar, percent), qPrintable(panel.shown(bar)));
+
+    QVERIFY(select("Agregat"));
+    QCOMPARE(panel.shown("batteryStateLabel"), QStringLiteral("Poziom paliwa"));
+    QTRY_VERIFY_WITH_TIMEOUT(shows("autonomyTimeEdit", "[\\d.]+ l"), patience);
+    QVERIFY2(shows("temperatureEdit", "\\d+ h"), qPrintable(panel.shown("temperatureEdit")));
+    QVERIFY(shows("batteryStateProgressBar", percent));
+    QCOMPARE(panel.shown("nominalActivePowerEdit"), QStringLiteral("15037421"));
+    QCOMPARE(panel.shown("deviceText"), QStringLiteral("Połączono z agregatem"));
+
+    panel.timer("socketErrorTimer")->setInterval(1);
+    QVERIFY(service.stop());
+    QTRY_COMPARE(panel.shown("serviceTitle"), QStringLiteral("Błąd połączenia z usługą:"));
+    for (const UpsTreeElement* row : panel.tree()->allElements())
+        QVERIFY(panel.rowShows(row, "red"));
+    QCOMPARE(panel.shown("autonomyTimeEdit"), QString());
+
+    QVERIFY(service.start());
+    QTRY_VERIFY(panel.timer("reconnectTimer"));
+    panel.timer("reconnectTimer")->setInterval(50);
+    QTRY_VERIFY_WITH_TIMEOUT(shows("autonomyTimeEdit", "[\\d.]+ l"), patience);
+    QCOMPARE(panel.shown("serviceTitle"), QStringLiteral("Połączono z usługą:"));
+    QCOMPARE(panel.tree()->currentElement(), panel.row(QStringLiteral("Agregat")));
+    QTRY_VERIFY(panel.rowShows(panel.row(QStringLiteral("Serwerownia A")), "green_m"));
+    QVERIFY(service.stop());
+}
+
+QTEST_MAIN(EndToEndTest)
+#include "EndToEndTest.moc"

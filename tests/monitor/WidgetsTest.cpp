@@ -1,0 +1,232 @@
+// SPDX-FileCopyrightText: 2026 The Velmora developers
+// SPDX-License-Identifier: MIT
+#include "monitor/widgets/DebugWarningWidget.h"
+#include "monitor/widgets/LineEditWidget.h"
+#include "monitor/widgets/MessageBox.h"
+#include "monitor/widgets/ProgressBarWidget.h"
+#include "monitor/widgets/VLStatusWidget.h"
+#include "support/ScriptedPrompts.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QMovie>
+#include <QPointer>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTest>
+#include <QToolTip>
+
+using namespace Velmora;
+using namespace Velmora::Tests;
+
+namespace {
+
+template <typename T>
+T* part(const QWidget& widget, const char* name)
+{
+    return widget.findChild<T*>(QLatin1String(name));
+}
+
+const QString modelReason = QStringLiteral("Dane niedostępne w wybranym modelu");
+
+} // namespace
+
+class WidgetsTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanup();
+    void textFieldTellsWhyItHasNoValue();
+    void barShowsValuesBeyondItsEnds_data();
+    void barShowsValuesBeyondItsEnds();
+    void barTellsWhyItHasNoValue();
+    void stripShowsTheLinks();
+    void stripShowsTheCountdownOnlyWhileConnected();
+    void stripTurnsItsSpinnersOnlyWhileConnecting();
+    void debugWarningBlinksAndKeepsItsPlace();
+    void messageBoxShowsPlainTextWithoutWaiting();
+};
+
+void WidgetsTest::initTestCase()
+{
+    Q_INIT_RESOURCE(velmora);
+}
+
+void WidgetsTest::cleanup()
+{
+    closeStrayWindows();
+}
+
+void WidgetsTest::textFieldTellsWhyItHasNoValue()
+{
+    LineEditWidget field;
+    field.resize(field.sizeHint());
+    field.QWidget::show();
+    const auto* edit = part<QLineEdit>(field, "lineEdit");
+    auto* help = part<QPushButton>(field, "helpButton");
+    QVERIFY(help->isHidden());
+
+    static_cast<AbstractWidget&>(field).setEnabled(false);
+    QVERIFY(!edit->isEnabled());
+    field.setDefaultText();
+    QCOMPARE(edit->text(), QStringLiteral("N/D"));
+    QVERIFY2(help->isVisible() && help->isEnabled(), "a disabled field can still give its reason");
+
+    QTest::mouseClick(help, Qt::LeftButton);
+    QCOMPARE(QToolTip::text(), modelReason);
+    field.defaultTooltip(false);
+    QTest::mouseClick(help, Qt::LeftButton);
+    QCOMPARE(QToolTip::text(),
+             QStringLiteral("Dane niedostępne przy użyciu wybranego interfejsu komunikacyjnego"));
+
+    field.setText(QStringLiteral("31"));
+    QVERIFY(help->isHidden());
+    field.setDefaultText();
+    field.setEnabled(false);
+    QVERIFY(help->isHidden());
+    QCOMPARE(field.text(), QString());
+}
+
+void WidgetsTest::barShowsValuesBeyondItsEnds_data()
+{
+    QTest::addColumn<int>("value");
+    QTest::addColumn<int>("filled");
+    QTest::newRow("within the bar") << 42 << 42;
+    QTest::newRow("over the end") << 130 << 100;
+    QTest::newRow("below the start") << -5 << 0;
+}
+
+void WidgetsTest::barShowsValuesBeyondItsEnds()
+{
+    QFETCH(int, value);
+    QFETCH(int, filled);
+    ProgressBarWidget field;
+    field.setValue(77);
+    field.setValue(value);
+    const auto* bar = part<QProgressBar>(field, "progressBar");
+    QCOMPARE(bar->value(), filled);
+    QCOMPARE(bar->text(), QString::number(value) + QLatin1String(" %"));
+}
+
+void WidgetsTest::barTellsWhyItHasNoValue()
+{
+    ProgressBarWidget field;
+    field.QWidget::show();
+    const auto* bar = part<QProgressBar>(field, "progressBar");
+    auto* help = part<QPushButton>(field, "helpButton");
+    field.setValue(50);
+    field.setDefaultValue();
+    QCOMPARE(bar->value(), 0);
+    QCOMPARE(bar->text(), QStringLiteral("N/D"));
+    QTest::mouseClick(help, Qt::LeftButton);
+    QCOMPARE(QToolTip::text(), modelReason);
+    static_cast<AbstractWidget&>(field).setEnabled(false);
+    QCOMPARE(bar->text(), QString());
+    QVERIFY(help->isHidden());
+    QVERIFY(!bar->isEnabled());
+}
+
+void WidgetsTest::stripShowsTheLinks()
+{
+    using State = VLStatusConnectionState;
+    VLStatusWidget strip;
+    strip.show();
+    const auto* note = part<QLabel>(strip, "serviceNote");
+    const auto* device = part<QLabel>(strip, "deviceText");
+    const auto shownNote = [note] { return note->isVisible() ? note->text() : QString(); };
+    QVERIFY(device->text().isEmpty());
+
+    strip.setUpsConnectionState(State::Connected);
+    strip.setServiceConnectionState(State::Connected, QStringLiteral("<i>host</i>"));
+    QCOMPARE(part<QLabel>(strip, "serviceAddress")->textFormat(), Qt::PlainText);
+    QCOMPARE(shownNote(), QStringLiteral("Niezgodna wersja usługi"));
+    strip.setServiceVersion(QStringLiteral(VELMORA_VERSION));
+    QCOMPARE(shownNote(), QString());
+    const qint64 okPicture = part<QLabel>(strip, "serviceIcon")->pixmap(Qt::ReturnByValue).cacheKey();
+    QCOMPARE(part<QLabel>(strip, "deviceIcon")->pixmap(Qt::ReturnByValue).cacheKey(), okPicture);
+
+    strip.setServiceConnectionState(State::Connected, QStringLiteral("host"));
+    QVERIFY2(shownNote().isEmpty(), "the version outlives a repeated state");
+    strip.setServiceConnectionState(State::Disconnected, QStringLiteral("host"));
+    QCOMPARE(device->text(), QStringLiteral("Komunikacja z UPS nieznana"));
+    strip.setDeviceType(VLDeviceType::Genset);
+    QCOMPARE(device->text(), QStringLiteral("Komunikacja z agregatem\nnieznana"));
+    strip.setServiceConnectionState(State::Connected, QStringLiteral("host"));
+    QCOMPARE(shownNote(), QStringLiteral("Niezgodna wersja usługi"));
+    QCOMPARE(device->text(), QStringLiteral("Połączono z agregatem"));
+}
+
+void WidgetsTest::stripShowsTheCountdownOnlyWhileConnected()
+{
+    VLStatusWidget strip;
+    strip.show();
+    const auto* countdown = part<QLabel>(strip, "countdownText");
+    strip.setServiceConnectionState(VLStatusConnectionState::Connecting, {});
+    strip.showPowerOffTimer(30);
+    QVERIFY(!countdown->isVisible());
+    strip.setServiceConnectionState(VLStatusConnectionState::Connected, {});
+    QVERIFY(countdown->isVisible() && part<QLabel>(strip, "clockIcon")->isVisible());
+    QCOMPARE(countdown->text(), QStringLiteral("Wyłączenie za 30 s"));
+    strip.hidePowerOffTimer();
+    QVERIFY(!countdown->isVisible() && !part<QLabel>(strip, "clockIcon")->isVisible());
+}
+
+void WidgetsTest::stripTurnsItsSpinnersOnlyWhileConnecting()
+{
+    VLStatusWidget strip;
+    for (int i = 0; i < 2; ++i) {
+        strip.setServiceConnectionState(VLStatusConnectionState::Connecting, {});
+        const auto* movie = part<QLabel>(strip, "serviceIcon")->movie();
+        const auto* deviceMovie = part<QLabel>(strip, "deviceIcon")->movie();
+        QVERIFY(movie && deviceMovie && movie != deviceMovie);
+        QTRY_VERIFY(movie->currentFrameNumber() > 1);
+        const int frame = movie->currentFrameNumber();
+        strip.setServiceConnectionState(VLStatusConnectionState::Connecting, {});
+        QVERIFY2(movie->currentFrameNumber() >= frame, "a repeated state does not start the spinner anew");
+        QCOMPARE(deviceMovie->state(), QMovie::Running);
+        strip.setServiceConnectionState(VLStatusConnectionState::Connected, {});
+        QCOMPARE(movie->state(), QMovie::NotRunning);
+        QCOMPARE(deviceMovie->state(), QMovie::NotRunning);
+        QVERIFY(!part<QLabel>(strip, "serviceIcon")->movie());
+    }
+}
+
+void WidgetsTest::debugWarningBlinksAndKeepsItsPlace()
+{
+    DebugWarningWidget warning;
+    const auto labels = warning.findChildren<QLabel*>();
+    QCOMPARE(labels.size(), 2);
+    const QSize place = warning.sizeHint();
+    QVERIFY(!place.isEmpty());
+    warning.startDebugWarning();
+    // The window stands in the tray: only the labels' own flags tell whether they are on.
+    QTRY_VERIFY(!labels.constFirst()->isHidden());
+    for (const bool hidden : {true, false}) {
+        warning.timeout();
+        for (const QLabel* label : labels)
+            QCOMPARE(label->isHidden(), hidden);
+        QCOMPARE(warning.sizeHint(), place);
+    }
+    warning.stopDebugWarning();
+    for (const QLabel* label : labels)
+        QVERIFY(label->isHidden());
+    QCOMPARE(warning.sizeHint(), place);
+}
+
+void WidgetsTest::messageBoxShowsPlainTextWithoutWaiting()
+{
+    Utils::displayMsgBox(QStringLiteral("Title"), QStringLiteral("<b>bold</b>\nsecond line"));
+    QPointer<QMessageBox> box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    QVERIFY(box && box->isVisible() && !box->parent());
+    QCOMPARE(box->textFormat(), Qt::PlainText);
+    QVERIFY(!box->windowIcon().isNull());
+    box->close();
+    QTRY_VERIFY(!box);
+}
+
+QTEST_MAIN(WidgetsTest)
+#include "WidgetsTest.moc"
