@@ -5,6 +5,7 @@
 #include "link/ServiceEndpoint.h"
 
 #include <QNetworkDatagram>
+#include <QNetworkProxy>
 
 namespace Velmora::Service {
 
@@ -19,6 +20,7 @@ constexpr int largestProbe = 16;
 DiscoveryResponder::DiscoveryResponder(QObject* parent)
     : QObject(parent)
 {
+    m_socket.setProxy(QNetworkProxy::NoProxy);
     connect(&m_socket, &QUdpSocket::readyRead, this, &DiscoveryResponder::readProbes);
 }
 

@@ -6,6 +6,7 @@
 #include "service/Logging.h"
 #include "service/device/DeviceBackend.h"
 
+#include <QNetworkProxy>
 #include <QTcpSocket>
 
 namespace Velmora::Service {
@@ -21,6 +22,8 @@ Server::Server(const ServiceParts& parts, QObject* parent)
     , m_parts(parts)
     , m_dispatcher(parts, [this](const QByteArray& document) { broadcast(document); })
 {
+    // A proxy in the environment is meant for outgoing connections.
+    m_tcp.setProxy(QNetworkProxy::NoProxy);
     connect(&m_tcp, &QTcpServer::newConnection, this, &Server::acceptConnections);
     // A withdrawal ends the reading of a list in panels, so each change goes out by itself.
     connect(&m_parts.backend, &DeviceBackend::shutdownTimerChanged, this, [this](int id, int seconds) {

@@ -16,6 +16,8 @@ constexpr double idleLitresPerHour = 4.0;
 constexpr double fullLoadLitresPerHour = 18.0;
 constexpr double serviceInterval = 250.0; ///< hours
 constexpr int lowFuelPercent = 20;
+// A scenario runs for days: somebody brings fuel once the tank is nearly empty.
+constexpr double refillBelowLitres = 15.0;
 
 QString onPhases(double value, int decimals)
 {
@@ -56,6 +58,8 @@ void SimulatedGenset::step(const Moment& moment)
     }
     if (m_running)
         runEngine();
+    else if (m_fuelLitres < refillBelowLitres)
+        m_fuelLitres = tankLitres;
 }
 
 bool SimulatedGenset::isWanted() const

@@ -38,6 +38,7 @@ private slots:
     void questionsAreAnswered();
     void signalEndsItCleanly_data();
     void signalEndsItCleanly();
+    void proxyOfTheEnvironmentIsIgnored();
     void killLosesNothingThatWasShown();
     void longDeviceListIsWarnedOf();
 
@@ -170,6 +171,19 @@ void ServiceProcessTest::signalEndsItCleanly()
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(process.exitCode(), 0);
     QTRY_VERIFY(!client.isConnected());
+}
+
+void ServiceProcessTest::proxyOfTheEnvironmentIsIgnored()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("all_proxy"), QStringLiteral("socks5://127.0.0.1:9"));
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    start(process, {});
+    PanelClient client;
+    QVERIFY(client.synchronize());
+    process.terminate();
+    QVERIFY(process.waitForFinished(timeout));
 }
 
 void ServiceProcessTest::killLosesNothingThatWasShown()
