@@ -54,6 +54,7 @@ private slots:
     void changeNeedsThePassword_data();
     void changeNeedsThePassword();
     void deviceIsAddedForEveryPanel();
+    void newParallelUnitsAreJoined();
     void badRegistrationIsRefused_data();
     void badRegistrationIsRefused();
     void editedDeviceKeepsItsLogging();
@@ -71,7 +72,8 @@ private slots:
 private:
     void serve();
     void restart();
-    [[nodiscard]] QByteArray deviceList() { return m_client->ask("get_ups_model_list", "ups_model_list"); }
+    /// The list as it is once all that was sent has been dealt with.
+    [[nodiscard]] QByteArray deviceList();
     [[nodiscard]] QByteArray policy(const char* list, const char* device);
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -121,6 +123,14 @@ void ChangeRequestsTest::restart()
     QVERIFY(m_client->synchronize());
     cleanup();
     serve();
+}
+
+QByteArray ChangeRequestsTest::deviceList()
+{
+    if (!m_client->synchronize())
+        return {};
+    m_client->discard("ups_model_list");
+    return m_client->ask("get_ups_model_list", "ups_model_list");
 }
 
 QByteArray ChangeRequestsTest::policy(const char* list, const char* device)
@@ -196,6 +206,24 @@ void ChangeRequestsTest::deviceIsAddedForEveryPanel()
     QVERIFY(policy("groups", "13").contains("<group_name>Default</group_name>"));
     restart();
     QCOMPARE(texts(deviceList(), "id").last(), QByteArray("13"));
+}
+
+void ChangeRequestsTest::newParallelUnitsAreJoined()
+{
+    for (int i = 0; i < 2; ++i)
+        m_client->send("set_new_ups",
+                       "<model_name>Hedrix_USB</model_name><communication>usb</communication>");
+    const QByteArray status = m_client->ask("get_ups_current_status_list", "ups_current_status_list");
+    QCOMPARE(texts(status, "parallel_unit").mid(12), (QVector<QByteArray>{"1", "1"}));
+    // A member that nobody registered is not taken.
+    m_client->send("set_new_ups", "<model_name>Virtual_Device</model_name><id></id><phy_id>13</phy_id>"
+                                  "<phy_id>14</phy_id><phy_id>99</phy_id>");
+    QCOMPARE(texts(deviceList(), "phy_id").mid(2), (QVector<QByteArray>{"13", "14"}));
+    m_client->send("change_device_on_interface", "<id>15</id>");
+    const QByteArray state = m_client->ask("get_ups_device_state", "ups_device_state");
+    QCOMPARE(text(state, "nominal_active_power"), QByteArray("108000"));
+    m_client->send("change_ups", "<model_name>Virtual_Device</model_name><id>15</id><phy_id>14</phy_id>");
+    QCOMPARE(texts(deviceList(), "phy_id").mid(2), QVector<QByteArray>{"14"});
 }
 
 void ChangeRequestsTest::badRegistrationIsRefused_data()

@@ -11,6 +11,8 @@
 #include <QTest>
 #include <QXmlStreamReader>
 
+#include <algorithm>
+
 namespace Velmora::Tests {
 
 namespace {
@@ -81,6 +83,14 @@ QByteArray PanelClient::waitFor(const QByteArray& root)
             return m_documents.takeAt(i);
     }
     return {};
+}
+
+void PanelClient::discard(const QByteArray& root)
+{
+    const auto isMeant = [&root](const QByteArray& document) {
+        return rootOf(document) == QLatin1String(root);
+    };
+    m_documents.erase(std::remove_if(m_documents.begin(), m_documents.end(), isMeant), m_documents.end());
 }
 
 bool PanelClient::synchronize()

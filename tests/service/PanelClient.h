@@ -32,6 +32,8 @@ public:
                                  const QByteArray& body = QByteArray());
     /// Waits for the next document with this root and takes it; empty if none came in time.
     [[nodiscard]] QByteArray waitFor(const QByteArray& root);
+    /// Forgets what came with this root so far, such as lists that were pushed.
+    void discard(const QByteArray& root);
     /// True once everything sent so far has been dealt with: the service answers in the order of asking.
     [[nodiscard]] bool synchronize();
 
