@@ -119,8 +119,11 @@ void UpsSocketController::connected()
     pollTimer = new QTimer(this);
     pollTimer->setObjectName(QStringLiteral("pollTimer"));
     connect(pollTimer, &QTimer::timeout, this, &UpsSocketController::getUpsDeviceData);
-    // Bound to the timer, so that a loss before it runs takes it along and the counter keeps its place.
-    QTimer::singleShot(0, pollTimer, [this] { getUpsDeviceData(); });
+    // A loss before it runs ends it with its timer, which may still be alive then: the counter keeps its place.
+    QTimer::singleShot(0, pollTimer, [this, own = pollTimer] {
+        if (pollTimer == own)
+            getUpsDeviceData();
+    });
     pollTimer->start(pollInterval);
 }
 
@@ -180,7 +183,10 @@ void UpsSocketController::readMessage()
         const int announced = Utils::getMessegaSize(socket->read(Utils::frameHeaderSize));
         // Asking for no more than has arrived gives the same bytes and reserves nothing by an announced size.
         const qint64 size = qBound<qint64>(0, announced, socket->bytesAvailable());
-        QXmlStreamReader reader = readMessageText(socket->read(size));
+        m_text = decryptToUtf8(socket->read(size));
+        if (repeatReply(m_text))
+            continue;
+        QXmlStreamReader reader = readMessageBytes(m_text);
         if (!handleMessage(reader))
             return;
     }
