@@ -37,6 +37,16 @@ class ConnectionTest final : public QObject
 {
     Q_OBJECT
 
+    void makeLink();
+    // Brings the link up and stops its poll, so that the test decides about every tick.
+    void connectAndHoldPoll();
+    QTimer* timer(const char* name) const;
+    int activeTimers(const char* name) const;
+
+    std::unique_ptr<ScriptedService> m_service;
+    std::unique_ptr<UpsSocketController> m_link;
+    std::unique_ptr<QSignalSpy> m_errors;
+
 private slots:
     void init();
     void cleanup();
@@ -49,6 +59,7 @@ private slots:
     void makesOneAttemptForOneLoss_data();
     void makesOneAttemptForOneLoss();
     void pollsOnceAfterAResetWhileSettling();
+    void keepsThePlaceOfAPollThatCouldNotBeSent();
     void comesBackAfterResetsAtTheDoor();
     void recoversFromBadBytes_data();
     void recoversFromBadBytes();
@@ -62,17 +73,6 @@ private slots:
     void movesToANewAddressWhileConnected();
     void endsQuietly_data();
     void endsQuietly();
-
-private:
-    void makeLink();
-    // Brings the link up and stops its poll, so that the test decides about every tick.
-    void connectAndHoldPoll();
-    QTimer* timer(const char* name) const;
-    int activeTimers(const char* name) const;
-
-    std::unique_ptr<ScriptedService> m_service;
-    std::unique_ptr<UpsSocketController> m_link;
-    std::unique_ptr<QSignalSpy> m_errors;
 };
 
 void ConnectionTest::init()
@@ -212,6 +212,8 @@ void ConnectionTest::keepsTheRhythmOverReconnections()
 
 void ConnectionTest::triesUntilTheServiceIsThere()
 {
+    m_link->disconnected();
+    QCOMPARE(activeTimers("reconnectTimer"), 0); // only the end of a link that stood starts attempts
     m_link->connectToServer();
     m_link->connectToServer();
     QTRY_COMPARE(m_errors->count(), 1);
@@ -263,6 +265,7 @@ void ConnectionTest::pollsOnceAfterAResetWhileSettling()
 {
     QVERIFY(m_service->start());
     m_service->resetNextConnections(1);
+    m_service->holdConnections();
     // The peer is gone before the opening requests are written.
     connect(m_link.get(), &UpsSocketController::upsConnected, m_service.get(), [this] {
         if (m_service->connectionCount() == 0)
@@ -274,6 +277,24 @@ void ConnectionTest::pollsOnceAfterAResetWhileSettling()
     QCOMPARE(m_service->requestNames(), opening + Names{configurationPoll});
     QCOMPARE(activeTimers("pollTimer"), 1);
     QCOMPARE(activeTimers("reconnectTimer"), 0);
+}
+
+void ConnectionTest::keepsThePlaceOfAPollThatCouldNotBeSent()
+{
+    QVERIFY(m_service->start());
+    // Posted before the first poll is, so that the link is down when that runs.
+    int connections = 0;
+    connect(
+        m_link.get(), &UpsSocketController::upsConnected, m_service.get(),
+        [this, &connections] {
+            if (++connections == 1)
+                m_link->disconectFromHost();
+        },
+        Qt::QueuedConnection);
+    m_link->connectToServer();
+    QVERIFY(m_service->waitForConnections(2));
+    QVERIFY(m_service->waitForRequest(configurationPoll));
+    QCOMPARE(m_service->requestNames(), opening + opening + Names{configurationPoll});
 }
 
 void ConnectionTest::comesBackAfterResetsAtTheDoor()

@@ -115,14 +115,6 @@ class DispatchTest final : public QObject
 {
     Q_OBJECT
 
-private slots:
-    void initTestCase();
-    void emitsWhatADocumentSays_data();
-    void emitsWhatADocumentSays();
-    void abortsOnABadDocument_data();
-    void abortsOnABadDocument();
-
-private:
     void addKnownDocuments();
     void addStateDocuments();
     void addUnknownDocuments();
@@ -130,6 +122,13 @@ private:
 
     ScriptedService m_service;
     std::unique_ptr<UpsSocketController> m_link;
+
+private slots:
+    void initTestCase();
+    void emitsWhatADocumentSays_data();
+    void emitsWhatADocumentSays();
+    void abortsOnABadDocument_data();
+    void abortsOnABadDocument();
 };
 
 void DispatchTest::initTestCase()

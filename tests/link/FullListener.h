@@ -29,7 +29,7 @@ public:
         setsockopt(listener, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
         m_listens = bind(listener, name, sizeof where) == 0 && listen(listener, 0) == 0;
         for (int i = 0; i < connectionsToFillIt; ++i)
-            ::connect(open(), name, sizeof where);
+            static_cast<void>(::connect(open(), name, sizeof where)); // none of them ends
     }
     ~FullListener()
     {

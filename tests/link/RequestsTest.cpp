@@ -31,15 +31,14 @@ class RequestsTest final : public QObject
 {
     Q_OBJECT
 
+    ScriptedService m_service;
+    std::unique_ptr<UpsSocketController> m_link;
+
 private slots:
     void initTestCase();
     void asks_data();
     void asks();
     void carriesAnEmptyPassword();
-
-private:
-    ScriptedService m_service;
-    std::unique_ptr<UpsSocketController> m_link;
 };
 
 void RequestsTest::initTestCase()

@@ -44,7 +44,10 @@ QByteArray ScriptedService::frame(const QByteArray& document)
 
 bool ScriptedService::start()
 {
-    if (m_server.isListening() || m_server.listen(QHostAddress(testAddress()), servicePort))
+    const QHostAddress address(testAddress());
+    if (!address.isLoopback())
+        qFatal("VELMORA_TEST_ADDRESS is no loopback address");
+    if (m_server.isListening() || m_server.listen(address, servicePort))
         return true;
     qWarning() << "no service at" << testAddress() << m_server.errorString();
     return false;
@@ -76,6 +79,7 @@ void ScriptedService::acceptPending()
 {
     // A loopback connection stands in the queue by the time its client knows of it.
     m_server.waitForNewConnection(defaultTimeout);
+    m_server.resumeAccepting();
 }
 
 void ScriptedService::send(const QByteArray& document)

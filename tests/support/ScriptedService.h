@@ -55,7 +55,10 @@ public:
     void setSilent(bool silent) { m_silent = silent; }
     /// Each of the next `count` connections is reset as soon as it is accepted.
     void resetNextConnections(int count) { m_resetsLeft = count; }
-    /// Accepts what waits at the port without going through the event loop.
+    /// Leaves connections in the queue of the port, where they stand for their clients, until
+    /// acceptPending().
+    void holdConnections() { m_server.pauseAccepting(); }
+    /// Accepts at once, without going through the event loop, and from now on again by itself.
     void acceptPending();
 
     // All of these go to the newest connection, each call in one write.
