@@ -51,6 +51,8 @@ int modeEvent(WorkMode mode)
 SimulatedUps::SimulatedUps(const DeviceSetup& setup)
     : SimulatedDevice(setup)
     , m_random(setup.seed)
+    , m_highestInput(setup.profile.inputVoltage)
+    , m_lowestInput(setup.profile.inputVoltage)
     , m_frequency(50.0, 0.1)
     , m_powerFactor(0.93, 0.02)
     , m_ambient(22.0, 2.5)
@@ -115,8 +117,11 @@ void SimulatedUps::moveMeasuredValues()
 {
     for (Wander& load : m_load)
         load.move(m_random);
-    for (Wander& voltage : m_input)
+    for (Wander& voltage : m_input) {
         voltage.move(m_random);
+        m_highestInput = qMax(m_highestInput, voltage.value());
+        m_lowestInput = qMin(m_lowestInput, voltage.value());
+    }
     m_frequency.move(m_random);
     m_powerFactor.move(m_random);
     m_ambient.move(m_random);
@@ -183,6 +188,8 @@ UpsReadings SimulatedUps::readings() const
         r.load.append(load.value());
     for (const Wander& voltage : m_input)
         r.inputVoltage.append(voltage.value());
+    r.highestInputVoltage = m_highestInput;
+    r.lowestInputVoltage = m_lowestInput;
     r.inputFrequency = m_frequency.value();
     // On bypass the load hangs on the mains as it is.
     const bool bypassed = m_mode == WorkMode::Bypass || m_mode == WorkMode::Eco;

@@ -43,6 +43,8 @@ private:
     Random m_random;
     QVector<Wander> m_load;
     QVector<Wander> m_input;
+    double m_highestInput;
+    double m_lowestInput;
     Wander m_frequency;
     Wander m_powerFactor;
     Wander m_ambient;

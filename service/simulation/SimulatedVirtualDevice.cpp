@@ -80,6 +80,8 @@ UpsReadings SimulatedVirtualDevice::readings() const
         sum.batteryAmpereHours += unit.batteryAmpereHours;
         sum.batteryPercent = qMin(sum.batteryPercent, unit.batteryPercent);
         sum.autonomyMinutes = qMin(sum.autonomyMinutes, unit.autonomyMinutes);
+        sum.highestInputVoltage = qMax(sum.highestInputVoltage, unit.highestInputVoltage);
+        sum.lowestInputVoltage = qMin(sum.lowestInputVoltage, unit.lowestInputVoltage);
         sum.charging = sum.charging || unit.charging;
         sum.mainsPresent = sum.mainsPresent && unit.mainsPresent;
     }

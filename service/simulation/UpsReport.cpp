@@ -168,11 +168,11 @@ void Report::addStandard()
     put("bypass_frequency", inputHertz(), 1);
     put("positive_bus_voltage", r.hasOutput() ? 372.0 : 0.0, 0);
     put("negative_bus_voltage", r.hasOutput() ? -371.0 : 0.0, 0);
-    put("input_maximum_voltage", QStringLiteral("241.8"));
-    put("input_minimum_voltage", r.mainsFailures > 0 ? QStringLiteral("0.0") : QStringLiteral("221.4"));
+    put("input_maximum_voltage", r.highestInputVoltage, 1);
+    put("input_minimum_voltage", r.mainsFailures > 0 ? 0.0 : r.lowestInputVoltage, 1);
     put("counter_mains_out_of_range", r.mainsFailures, 0);
     put("counter_discharge", r.mainsFailures, 0);
-    put("time_on_battery", static_cast<double>(r.totalSecondsOnBattery / 60), 0);
+    put("time_on_battery", std::floor(static_cast<double>(r.totalSecondsOnBattery) / 60.0), 0);
 }
 
 void Report::addFull()

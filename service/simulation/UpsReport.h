@@ -34,7 +34,9 @@ struct UpsReadings
     int nominalVoltAmperes = 0;
     QVector<double> load;         ///< percent of nominal power, by phase
     QVector<double> inputVoltage; ///< volts when mains is present, by phase
-    double inputFrequency = 50.0; ///< hertz when mains is present
+    double highestInputVoltage = 0.0;
+    double lowestInputVoltage = 0.0; ///< while mains was present
+    double inputFrequency = 50.0;    ///< hertz when mains is present
     double outputVoltage = 230.0;
     double outputFrequency = 50.0;
     double powerFactor = 0.9;

@@ -136,12 +136,10 @@ QByteArray ChangeRequestsTest::deviceList()
 QByteArray ChangeRequestsTest::policy(const char* list, const char* device)
 {
     m_client->send("get_network_configuration", QByteArray("<id>") + device + "</id>");
-    const QByteArray computers = m_client->waitFor("all_computers");
-    const QByteArray events = m_client->waitFor("events");
-    const QByteArray groups = m_client->waitFor("groups");
-    if (qstrcmp(list, "groups") == 0)
-        return groups;
-    return qstrcmp(list, "events") == 0 ? events : computers;
+    QMap<QByteArray, QByteArray> lists;
+    for (const char* name : {"all_computers", "events", "groups"})
+        lists.insert(name, m_client->waitFor(name));
+    return lists.value(list);
 }
 
 void ChangeRequestsTest::changeNeedsThePassword_data()
