@@ -119,7 +119,8 @@ void UpsSocketController::connected()
     pollTimer = new QTimer(this);
     pollTimer->setObjectName(QStringLiteral("pollTimer"));
     connect(pollTimer, &QTimer::timeout, this, &UpsSocketController::getUpsDeviceData);
-    // A loss before it runs ends it with its timer, which may still be alive then: the counter keeps its place.
+    // A loss before it runs takes it along, so that the counter keeps its place. The timer that was ended may
+    // still be alive then.
     QTimer::singleShot(0, pollTimer, [this, own = pollTimer] {
         if (pollTimer == own)
             getUpsDeviceData();
