@@ -127,6 +127,7 @@ private slots:
     void initTestCase();
     void emitsWhatADocumentSays_data();
     void emitsWhatADocumentSays();
+    void emitsAgainWhatArrivesAgain();
     void abortsOnABadDocument_data();
     void abortsOnABadDocument();
 };
@@ -287,6 +288,20 @@ void DispatchTest::emitsWhatADocumentSays()
     QTRY_VERIFY(log.entries.endsWith(lastSignal));
     QCOMPARE(log.entries, expected + QStringList{lastSignal});
     QCOMPARE(m_service.connectionCount(), connections);
+}
+
+void DispatchTest::emitsAgainWhatArrivesAgain()
+{
+    const QByteArray one("<ups_device_state isUpsFound=\"1\"><a>1</a></ups_device_state>");
+    const QByteArray two("<ups_device_state isUpsFound=\"1\"><a>2</a></ups_device_state>");
+    const QByteArray configuration("<ups_configuration><a>1</a></ups_configuration>");
+    SignalLog log(*m_link);
+    m_service.sendTogether({one, one, configuration, two, configuration, one, lastDocument});
+    QTRY_VERIFY(log.entries.endsWith(lastSignal));
+    const QString state = QStringLiteral("upsDeviceState(a=%1,isProperDevice=,isUpsFound=1)");
+    const QString configured = QStringLiteral("upsConfiguration(a=1)");
+    QCOMPARE(log.entries, (QStringList{state.arg(1), state.arg(1), configured, state.arg(2), configured,
+                                       state.arg(1), lastSignal}));
 }
 
 void DispatchTest::abortsOnABadDocument_data()
