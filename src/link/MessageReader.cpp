@@ -22,7 +22,11 @@ bool readsAsUtf8(const QByteArray& bytes)
 
 QXmlStreamReader readMessageText(const QByteArray& blob)
 {
-    const QByteArray bytes = decryptToUtf8(blob);
+    return readMessageBytes(decryptToUtf8(blob));
+}
+
+QXmlStreamReader readMessageBytes(const QByteArray& bytes)
+{
     return readsAsUtf8(bytes) ? QXmlStreamReader(bytes) : QXmlStreamReader(QString::fromUtf8(bytes));
 }
 

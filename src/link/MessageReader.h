@@ -10,4 +10,7 @@ namespace Velmora {
 /// allows it. A blob that is not genuine gives a reader of an empty document, which fails on its first token.
 [[nodiscard]] QXmlStreamReader readMessageText(const QByteArray& blob);
 
+/// The same over what decryptToUtf8() gave.
+[[nodiscard]] QXmlStreamReader readMessageBytes(const QByteArray& bytes);
+
 } // namespace Velmora

@@ -123,7 +123,18 @@ private:
     using MessageHandler = void (UpsSocketController::*)(QXmlStreamReader&);
     static const QHash<QString, MessageHandler>& messageHandlers();
 
+    // A reply of names and values, and what was read from it.
+    struct FlatReply
+    {
+        QByteArray text;
+        QMap<QString, QString> values;
+    };
+
     void readMessage();
+    /// Emits what was read from the last reply of its kind if `text` is the same again. False if it is not.
+    bool repeatReply(const QByteArray& text);
+    /// To be called by the reply's handler, which has read the document to its end.
+    void rememberReply(FlatReply& reply, const QMap<QString, QString>& values) const;
     /// Dispatches one document. False if it was broken at its start and the connection was aborted.
     bool handleMessage(QXmlStreamReader& reader);
     void handleElement(QXmlStreamReader& reader);
@@ -159,6 +170,10 @@ private:
     XmlParser xmlParser;
     int pollCounter = 3; ///< chooses what the next tick asks for; survives reconnections
     bool stateAnswered = false;
+
+    QByteArray m_text; ///< of the document being dispatched, until its first element was handled
+    FlatReply m_stateReply;
+    FlatReply m_configurationReply;
 };
 
 } // namespace Velmora

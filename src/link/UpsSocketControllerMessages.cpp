@@ -62,6 +62,30 @@ const QHash<QString, UpsSocketController::MessageHandler>& UpsSocketController::
     return handlers;
 }
 
+// Most polls bring what the last one brought. Reading it is half of what they cost, so it is read once.
+bool UpsSocketController::repeatReply(const QByteArray& text)
+{
+    if (text.isEmpty())
+        return false;
+    if (text == m_stateReply.text) {
+        stateAnswered = true;
+        emit upsDeviceState(m_stateReply.values);
+        return true;
+    }
+    if (text == m_configurationReply.text) {
+        emit upsConfiguration(m_configurationReply.values);
+        return true;
+    }
+    return false;
+}
+
+void UpsSocketController::rememberReply(FlatReply& reply, const QMap<QString, QString>& values) const
+{
+    // An element that is not its document's first stands behind others that were reported too.
+    if (!m_text.isEmpty())
+        reply = {m_text, values};
+}
+
 bool UpsSocketController::handleMessage(QXmlStreamReader& reader)
 {
     while (!reader.atEnd()) {
@@ -74,6 +98,7 @@ bool UpsSocketController::handleMessage(QXmlStreamReader& reader)
             return false;
         }
         handleElement(reader);
+        m_text.clear();
         reader.readNextStartElement();
         reader.readNext();
     }
@@ -104,6 +129,7 @@ void UpsSocketController::handleUpsDeviceState(QXmlStreamReader& reader)
             text.replace(QLatin1Char(';'), QLatin1String(" / "));
         parameters.insert(name, text);
     });
+    rememberReply(m_stateReply, parameters);
     emit upsDeviceState(parameters);
 }
 
@@ -112,6 +138,7 @@ void UpsSocketController::handleUpsConfiguration(QXmlStreamReader& reader)
     QMap<QString, QString> parameters;
     readFlatElements(
         reader, [&parameters](const QString& name, const QString& text) { parameters.insert(name, text); });
+    rememberReply(m_configurationReply, parameters);
     emit upsConfiguration(parameters);
 }
 
