@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "service/PanelClient.h"
 #include "service/ReferenceService.h"
+#include "service/TestScenario.h"
 
 #include <QLoggingCategory>
 #include <QRegularExpression>
@@ -109,6 +110,7 @@ void ChangeRequestsTest::serve()
 {
     Options options;
     options.listen = QHostAddress(PanelClient::address());
+    options.scenarioPath = quickScenarioFile(m_folder->path());
     options.statePath = m_folder->filePath(QStringLiteral("state.json"));
     QString reason;
     m_service = std::make_unique<ReferenceService>();

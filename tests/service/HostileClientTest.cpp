@@ -5,8 +5,10 @@
 #include "link/ServiceEndpoint.h"
 #include "service/PanelClient.h"
 #include "service/ReferenceService.h"
+#include "service/TestScenario.h"
 
 #include <QElapsedTimer>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QtEndian>
 
@@ -78,6 +80,7 @@ private slots:
     void connectionsAreLimited();
 
 private:
+    QTemporaryDir m_folder;
     std::unique_ptr<ReferenceService> m_service;
     std::unique_ptr<PanelClient> m_honest;
 };
@@ -86,6 +89,7 @@ void HostileClientTest::init()
 {
     Options options;
     options.listen = QHostAddress(PanelClient::address());
+    options.scenarioPath = quickScenarioFile(m_folder.path());
     QString reason;
     m_service = std::make_unique<ReferenceService>();
     QVERIFY2(m_service->start(options, reason), qPrintable(reason));

@@ -3,6 +3,7 @@
 #include "service/TestScenario.h"
 
 #include <QDir>
+#include <QFile>
 #include <QTemporaryFile>
 
 namespace Velmora::Tests {
@@ -31,6 +32,17 @@ Service::Scenario scenarioFrom(const char* json)
 Service::Scenario defaultScenario()
 {
     return readOrFail(QString());
+}
+
+QString quickScenarioFile(const QString& folder)
+{
+    static_cast<void>(defaultScenario()); // registers the resource
+    QFile source(QStringLiteral(":/velmora-service/default.json"));
+    QFile file(folder + QStringLiteral("/quick.json"));
+    if (!source.open(QIODevice::ReadOnly) || !file.open(QIODevice::WriteOnly) ||
+        file.write(source.readAll().replace("\"warm_up\": 1800", "\"warm_up\": 0")) < 0)
+        qFatal("cannot write a scenario");
+    return file.fileName();
 }
 
 TimedBackend::TimedBackend(const Service::Scenario& scenario, quint64 seed, double speed)

@@ -14,6 +14,9 @@ namespace Velmora::Tests {
 /// The compiled-in scenario.
 [[nodiscard]] Service::Scenario defaultScenario();
 
+/// Writes the compiled-in scenario without its warm-up, which takes most of a start; gives the file's path.
+[[nodiscard]] QString quickScenarioFile(const QString& folder);
+
 /// A simulation whose time the test sets.
 class TimedBackend final
 {
