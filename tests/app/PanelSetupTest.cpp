@@ -10,8 +10,7 @@
 #include <QApplication>
 #include <QDirIterator>
 #include <QImageReader>
-#include <QLabel>
-#include <QMovie>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
@@ -20,14 +19,6 @@
 using namespace Velmora;
 
 namespace {
-
-QStringList warnings;
-
-void keepWarnings(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message)
-{
-    if (type != QtDebugMsg && type != QtInfoMsg)
-        warnings.append(message);
-}
 
 QByteArray contentOf(const QString& path)
 {
@@ -61,14 +52,11 @@ class PanelSetupTest final : public QObject
 
 private slots:
     void initTestCase();
-    void missingFileGivesDefaults();
-    void changesReachTheFileAndEveryOtherObject();
-    void unwritableFileLosesTheChangeSilently();
+    void iniFileKeepsChanges();
     void languageWordChoosesTheTexts_data();
     void languageWordChoosesTheTexts();
     void everyPictureThatIsNamedLoads();
     void everyModelAndStateHasItsPicture();
-    void animationsMove();
     void styleSheetIsUnderstood();
 
 private:
@@ -82,38 +70,27 @@ void PanelSetupTest::initTestCase()
     qputenv("VELMORA_CONTROL_PANEL_INI", QFile::encodeName(m_folder.filePath(QStringLiteral("panel.ini"))));
 }
 
-void PanelSetupTest::missingFileGivesDefaults()
-{
-    const ControlPanelConfiguration configuration;
-    QCOMPARE(configuration.getServerAddress(), QString());
-    QCOMPARE(configuration.getLanguage(), QString());
-    QVERIFY(configuration.getCheckForUpdates());
-    QVERIFY(!configuration.getDontShowAddUpsPrompt());
-}
-
-void PanelSetupTest::changesReachTheFileAndEveryOtherObject()
+void PanelSetupTest::iniFileKeepsChanges()
 {
     const QString address = QStringLiteral("zasilacz-łącznik.example");
     const ControlPanelConfiguration longLived;
+    QCOMPARE(longLived.getServerAddress(), QString());
+    QVERIFY(longLived.getCheckForUpdates());
+    QVERIFY(!longLived.getDontShowAddUpsPrompt());
     {
         ControlPanelConfiguration configuration;
         configuration.setServerAddress(address);
         configuration.setCheckForUpdates(false);
         configuration.setDontShowAddUpsPrompt(true);
     }
-    QVERIFY(contentOf(m_folder.filePath(QStringLiteral("panel.ini"))).contains("zasilacz-łącznik.example"));
+    QVERIFY(contentOf(m_folder.filePath(QStringLiteral("panel.ini"))).contains(address.toUtf8()));
     QCOMPARE(longLived.getServerAddress(), address);
     QVERIFY(!longLived.getCheckForUpdates());
     QVERIFY(ControlPanelConfiguration().getDontShowAddUpsPrompt());
-}
 
-void PanelSetupTest::unwritableFileLosesTheChangeSilently()
-{
-    const QByteArray writable = qgetenv("VELMORA_CONTROL_PANEL_INI");
-    qputenv("VELMORA_CONTROL_PANEL_INI", "/proc/version/panel.ini");
-    ControlPanelConfiguration().setServerAddress(QStringLiteral("10.0.0.1"));
+    qputenv("VELMORA_CONTROL_PANEL_INI", "/proc/version/panel.ini"); // nobody can write there
+    ControlPanelConfiguration().setServerAddress(address);
     QCOMPARE(ControlPanelConfiguration().getServerAddress(), QString());
-    qputenv("VELMORA_CONTROL_PANEL_INI", writable);
 }
 
 void PanelSetupTest::languageWordChoosesTheTexts_data()
@@ -163,8 +140,13 @@ void PanelSetupTest::everyPictureThatIsNamedLoads()
     QVERIFY(names.size() > 10);
     for (const QString& name : names) {
         QVERIFY2(QFile::exists(name), qPrintable(name));
-        if (!name.endsWith(QLatin1String(".qss")))
-            QVERIFY2(!QImageReader(name).read().isNull(), qPrintable(name));
+        if (name.endsWith(QLatin1String(".qss")))
+            continue;
+        QImageReader reader(name);
+        const QImage first = reader.read();
+        QVERIFY2(!first.isNull(), qPrintable(name));
+        if (name.endsWith(QLatin1String(".gif")))
+            QVERIFY2(reader.imageCount() > 1 && reader.read() != first, qPrintable(name));
     }
 }
 
@@ -185,34 +167,15 @@ void PanelSetupTest::everyModelAndStateHasItsPicture()
     }
 }
 
-void PanelSetupTest::animationsMove()
-{
-    for (const QString& name : namedResources()) {
-        if (!name.endsWith(QLatin1String(".gif")))
-            continue;
-        QMovie movie(name);
-        QVERIFY2(movie.isValid() && movie.frameCount() > 1, qPrintable(name));
-        movie.jumpToFrame(0);
-        const QImage first = movie.currentImage();
-        movie.jumpToNextFrame();
-        QVERIFY2(movie.currentImage() != first, qPrintable(name));
-    }
-}
-
 void PanelSetupTest::styleSheetIsUnderstood()
 {
-    qInstallMessageHandler(keepWarnings);
+    // Qt drops the whole sheet over one fault in it, so any of its rules tells.
+    QPushButton button;
+    QVERIFY(button.minimumSizeHint().height() < 33);
     Startup::setPanelStyleSheet();
-    QLabel label;
-    label.ensurePolished();
-    const QFont font = label.font();
-    qApp->setStyleSheet(QStringLiteral("broken {"));
-    label.ensurePolished();
-    const QStringList all = warnings;
-    qApp->setStyleSheet(QString());
-    qInstallMessageHandler(nullptr);
-    QCOMPARE(font.pixelSize(), 11);
-    QCOMPARE(all, QStringList{QStringLiteral("Could not parse application stylesheet")});
+    button.ensurePolished();
+    QCOMPARE(button.font().pixelSize(), 11);
+    QCOMPARE(button.minimumSizeHint(), QSize(108, 33)); // 100 by 25 and the border
 }
 
 QTEST_MAIN(PanelSetupTest)

@@ -12,27 +12,21 @@ namespace {
 
 constexpr int patience = 10000;
 
-/// The reference service with the scenario that is compiled into it.
-class Service final
+/// Starts the reference service with the scenario that is compiled into it.
+bool start(QProcess& service)
 {
-public:
-    [[nodiscard]] bool start()
-    {
-        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_process.start(QStringLiteral(VELMORA_SERVICE_PROGRAM),
-                        {QStringLiteral("--listen"), ScriptedService::testAddress(), QStringLiteral("--seed"),
-                         QStringLiteral("7"), QStringLiteral("--log-level"), QStringLiteral("error")});
-        return m_process.waitForStarted();
-    }
-    [[nodiscard]] bool stop()
-    {
-        m_process.terminate();
-        return m_process.waitForFinished() && m_process.exitStatus() == QProcess::NormalExit;
-    }
+    service.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    service.start(QStringLiteral(VELMORA_SERVICE_PROGRAM),
+                  {QStringLiteral("--listen"), ScriptedService::testAddress(), QStringLiteral("--seed"),
+                   QStringLiteral("7"), QStringLiteral("--log-level"), QStringLiteral("error")});
+    return service.waitForStarted();
+}
 
-private:
-    QProcess m_process;
-};
+bool stop(QProcess& service)
+{
+    service.terminate();
+    return service.waitForFinished() && service.exitStatus() == QProcess::NormalExit;
+}
 
 } // namespace
 
@@ -42,19 +36,13 @@ class EndToEndTest final : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
     void panelFollowsTheServiceThroughLossAndReturn();
 };
 
-void EndToEndTest::initTestCase()
-{
-    Q_INIT_RESOURCE(velmora);
-}
-
 void EndToEndTest::panelFollowsTheServiceThroughLossAndReturn()
 {
-    Service service;
-    QVERIFY(service.start());
+    QProcess service;
+    QVERIFY(start(service));
     WindowFixture panel;
     panel.window = std::make_unique<VelmoraWindow>();
     panel.window->show();
@@ -106,20 +94,20 @@ void EndToEndTest::panelFollowsTheServiceThroughLossAndReturn()
     QCOMPARE(panel.shown("deviceText"), QStringLiteral("Połączono z agregatem"));
 
     panel.timer("socketErrorTimer")->setInterval(1);
-    QVERIFY(service.stop());
+    QVERIFY(stop(service));
     QTRY_COMPARE(panel.shown("serviceTitle"), QStringLiteral("Błąd połączenia z usługą:"));
     for (const UpsTreeElement* row : panel.tree()->allElements())
         QVERIFY(panel.rowShows(row, "red"));
     QCOMPARE(panel.shown("autonomyTimeEdit"), QString());
 
-    QVERIFY(service.start());
+    QVERIFY(start(service));
     QTRY_VERIFY(panel.timer("reconnectTimer"));
     panel.timer("reconnectTimer")->setInterval(50);
     QTRY_VERIFY_WITH_TIMEOUT(shows("autonomyTimeEdit", "[\\d.]+ l"), patience);
     QCOMPARE(panel.shown("serviceTitle"), QStringLiteral("Połączono z usługą:"));
     QCOMPARE(panel.tree()->currentElement(), panel.row(QStringLiteral("Agregat")));
     QTRY_VERIFY(panel.rowShows(panel.row(QStringLiteral("Serwerownia A")), "green_m"));
-    QVERIFY(service.stop());
+    QVERIFY(stop(service));
 }
 
 QTEST_MAIN(EndToEndTest)

@@ -14,6 +14,12 @@
 #include <QSignalSpy>
 #include <QTest>
 
+// The macro stands in no namespace.
+static void initResources()
+{
+    Q_INIT_RESOURCE(velmora);
+}
+
 namespace Velmora::Tests {
 
 namespace {
@@ -68,6 +74,7 @@ QByteArray stateReport(const QByteArray& values, bool found)
 WindowFixture::WindowFixture()
     : prompts(ScriptedPrompts::install())
 {
+    initResources();
     QFile::remove(qEnvironmentVariable("VELMORA_CONTROL_PANEL_INI"));
     ControlPanelConfiguration().setServerAddress(ScriptedService::testAddress());
 }

@@ -3,14 +3,11 @@
 #include "monitor/WindowFixture.h"
 
 #include <QApplication>
-#include <QDesktopServices>
 #include <QLabel>
 #include <QLocalSocket>
 #include <QMovie>
-#include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
-#include <QUrl>
 
 using namespace Velmora::Tests;
 
@@ -27,33 +24,21 @@ class WindowShellTest final : public QObject
 {
     Q_OBJECT
 
-public slots:
-    void takeUrl(const QUrl& url) { m_opened = url; }
-
 private slots:
-    void initTestCase();
     void init();
     void cleanup();
     void closingHidesAndQuittingEndsWithStatusZero();
     void trayTogglesOnASingleClickOnly();
     void secondPanelBringsTheHiddenWindowBack();
     void administratorModeSwitchesItsControls();
-    void configurationReplyEnablesTheConfigurationOfTheDevice_data();
-    void configurationReplyEnablesTheConfigurationOfTheDevice();
+    void settingsOfTheDeviceAreForAdministratorsOnly();
     void debugMarkerStandsOnceInTheTitle();
     void busyServiceLocksTheWindow();
     void messagesStandTogetherWhileTheLinkGoesOn();
-    void helpFollowsTheLanguage();
 
 private:
     std::unique_ptr<WindowFixture> panel;
-    QUrl m_opened;
 };
-
-void WindowShellTest::initTestCase()
-{
-    Q_INIT_RESOURCE(velmora);
-}
 
 void WindowShellTest::init()
 {
@@ -140,28 +125,18 @@ void WindowShellTest::administratorModeSwitchesItsControls()
              "logging out forgets the password");
 }
 
-void WindowShellTest::configurationReplyEnablesTheConfigurationOfTheDevice_data()
+void WindowShellTest::settingsOfTheDeviceAreForAdministratorsOnly()
 {
-    QTest::addColumn<bool>("administrator");
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<bool>("enabled");
-    QTest::newRow("settings for an administrator") << true << QByteArray("<beeper>1</beeper>") << true;
-    QTest::newRow("settings for a watcher") << false << QByteArray("<beeper>1</beeper>") << false;
-    QTest::newRow("no settings") << true << QByteArray() << false;
-}
-
-void WindowShellTest::configurationReplyEnablesTheConfigurationOfTheDevice()
-{
-    QFETCH(bool, administrator);
-    QFETCH(QByteArray, content);
-    QFETCH(bool, enabled);
-    if (administrator)
-        panel->window->enableAdministratorButtons();
-    QVERIFY(panel->send("<ups_configuration>" + content + "</ups_configuration>"));
-    QCOMPARE(panel->find<QWidget>("upsConfigurationButton")->isEnabled(), enabled);
-    QCOMPARE(panel->find<QAction>("actionUpsConfiguration")->isEnabled(), enabled);
+    const auto* button = panel->find<QWidget>("upsConfigurationButton");
+    const QByteArray settings = "<ups_configuration><beeper>1</beeper></ups_configuration>";
+    QVERIFY(panel->send(settings));
+    QVERIFY(!button->isEnabled());
+    panel->window->enableAdministratorButtons();
+    QVERIFY(!button->isEnabled());
+    QVERIFY(panel->send(settings));
+    QVERIFY(button->isEnabled() && panel->find<QAction>("actionUpsConfiguration")->isEnabled());
     QVERIFY(panel->send("<ups_configuration></ups_configuration>"));
-    QVERIFY(!panel->find<QWidget>("upsConfigurationButton")->isEnabled());
+    QVERIFY(!button->isEnabled());
 }
 
 void WindowShellTest::debugMarkerStandsOnceInTheTitle()
@@ -207,21 +182,6 @@ void WindowShellTest::messagesStandTogetherWhileTheLinkGoesOn()
         texts.append(box->text());
     }
     QCOMPARE(texts.join(QLatin1Char('|')), QStringLiteral("<b>one</b>|two|three"));
-}
-
-void WindowShellTest::helpFollowsTheLanguage()
-{
-    const auto openManual = [this](const QString& language) {
-        const QString ini = qEnvironmentVariable("VELMORA_CONTROL_PANEL_INI");
-        QSettings(ini, QSettings::IniFormat).setValue(QStringLiteral("language"), language);
-        m_opened.clear();
-        panel->find<QAction>("actionOnlineHelp")->trigger();
-        return m_opened.path();
-    };
-    QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "takeUrl");
-    QCOMPARE(openManual(QStringLiteral("polish")), QStringLiteral("/VL/user_manual_pl.pdf"));
-    QCOMPARE(openManual(QStringLiteral("slovak")), QStringLiteral("/VL/user_manual_en.pdf"));
-    QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
 }
 
 QTEST_MAIN(WindowShellTest)

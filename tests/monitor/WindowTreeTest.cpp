@@ -42,7 +42,6 @@ class WindowTreeTest final : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
     void rebuild_data();
     void rebuild();
     void emptyListPromptsOncePerRun_data();
@@ -53,11 +52,6 @@ private slots:
     void contextMenu_data();
     void contextMenu();
 };
-
-void WindowTreeTest::initTestCase()
-{
-    Q_INIT_RESOURCE(velmora);
-}
 
 void WindowTreeTest::rebuild_data()
 {
