@@ -3,6 +3,7 @@
 #pragma once
 
 #include "link/DeviceRecords.h"
+#include "monitor/core/DeviceStateView.h"
 #include "monitor/core/ShutdownTimersData.h"
 
 #include <QAction>
@@ -13,6 +14,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 
 class DebugWarningWidget;
 class DeviceStatePanel;
@@ -109,6 +111,7 @@ private:
     static void setEnabledStatus(bool enabled, const QList<QWidget*>& widgets);
     static void setEnabledStatus(bool enabled, const QList<QAction*>& actions);
     void setDeviceFieldsEnabled(bool enabled);
+    [[nodiscard]] Velmora::DeviceStateView viewOf(const QMap<QString, QString>& report);
     void disableDeviceControls();
     void removeDebugMarker();
     [[nodiscard]] static QString debugMarker();
@@ -143,4 +146,9 @@ private:
     Velmora::Utils::Ups currentDevice; ///< outlives rebuilds of the tree and so carries the selection
     QList<Velmora::Utils::SerialPort> m_serialPorts;
     QMap<QString, QString> lastDeviceState;
+
+    // The last view of a report, and what it was made from.
+    QMap<QString, QString> m_viewReport;
+    QString m_viewModel;
+    std::optional<Velmora::DeviceStateView> m_view;
 };

@@ -7,7 +7,6 @@
 #include "monitor/DeviceStatePanel.h"
 #include "monitor/UpsTreeElement.h"
 #include "monitor/UpsTreeWidget.h"
-#include "monitor/core/DeviceStateView.h"
 #include "monitor/core/IndicatorNames.h"
 #include "monitor/widgets/AbstractWidget.h"
 #include "monitor/widgets/VLStatusWidget.h"
@@ -49,10 +48,19 @@ void VelmoraWindow::disableDeviceControls()
     setEnabledStatus(false, QList<QAction*>{ui->actionExtendInformation, ui->actionUpsConfiguration});
 }
 
+Velmora::DeviceStateView VelmoraWindow::viewOf(const QMap<QString, QString>& report)
+{
+    if (!m_view || report != m_viewReport || currentDevice.model_name != m_viewModel) {
+        m_viewReport = report;
+        m_viewModel = currentDevice.model_name;
+        m_view = Velmora::deviceStateView(report, m_viewModel, notAvailableText);
+    }
+    return *m_view;
+}
+
 void VelmoraWindow::upsDeviceState(const QMap<QString, QString>& parameters)
 {
-    const Velmora::DeviceStateView view =
-        Velmora::deviceStateView(parameters, currentDevice.model_name, notAvailableText);
+    const Velmora::DeviceStateView view = viewOf(parameters);
     setEnabledStatus(view.extendedInformationAvailable,
                      QList<QWidget*>{ui->exInfoButton, ui->upsEventsButton});
     ui->actionExtendInformation->setEnabled(view.extendedInformationAvailable);

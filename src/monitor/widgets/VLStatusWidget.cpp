@@ -82,6 +82,10 @@ void VLStatusWidget::buildLayout()
 
 void VLStatusWidget::setServiceConnectionState(VLStatusConnectionState state, const QString& address)
 {
+    // Each report of a device says again that all is well.
+    const bool versionStays = state == VLStatusConnectionState::Connected || serviceVersion.isEmpty();
+    if (serviceState == state && serviceAddress == address && versionStays)
+        return;
     serviceState = state;
     serviceAddress = address;
     if (state != VLStatusConnectionState::Connected)
@@ -91,6 +95,8 @@ void VLStatusWidget::setServiceConnectionState(VLStatusConnectionState state, co
 
 void VLStatusWidget::setUpsConnectionState(VLStatusConnectionState state)
 {
+    if (upsState == state)
+        return;
     upsState = state;
     update_status();
 }
