@@ -56,6 +56,13 @@ void seedForRandomByte(int wanted)
 }
 QT_WARNING_POP
 
+// The address sanitizer keeps what was freed for a while, so that a buffer that grows counts twice.
+#ifdef __SANITIZE_ADDRESS__
+constexpr int freedMemoryFactor = 2;
+#else
+constexpr int freedMemoryFactor = 1;
+#endif
+
 // A genuine blob around a payload that is only said to be compressed.
 QByteArray blobOfPacked(const QByteArray& payload)
 {
@@ -312,7 +319,7 @@ void CodecTest::unpacksWithinBounds()
     const Tests::AddressSpaceWatch memory;
     QCOMPARE(crypt.decryptToByteArray(blob).size(), unpackedSize);
     QCOMPARE(crypt.lastError(), Error::NoError);
-    QVERIFY2(memory.grown() <= memoryLimit, qPrintable(QString::number(memory.grown())));
+    QVERIFY2(memory.grown() <= freedMemoryFactor * memoryLimit, qPrintable(QString::number(memory.grown())));
 }
 
 void CodecTest::frameSizes_data()
