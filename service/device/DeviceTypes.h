@@ -11,10 +11,13 @@ namespace Velmora::Service {
 /// Key and text value of a device's report or of its settings.
 using KeyValues = QMap<QString, QString>;
 
+/// An id that no device has; those of devices start at 0.
+constexpr int noDevice = -1;
+
 /// A device as somebody registered it: what it is, how it is reached and what is logged of it.
 struct DeviceRegistration
 {
-    int id = 0;
+    int id = noDevice;
     QString modelName; ///< config name of the model; "Virtual_Device" for a group of parallel units
     QString communication;
     QString comPort;

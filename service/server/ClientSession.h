@@ -41,8 +41,8 @@ public:
     void sendFrame(const QByteArray& frame);
     void close(const QString& reason);
 
-    /// The device that state, configuration and logs are asked for; 0 until the panel has chosen one.
-    [[nodiscard]] int selectedDevice() const { return m_selectedDevice; }
+    /// The device that state, configuration and logs are asked for; none until the panel has chosen one.
+    [[nodiscard]] std::optional<int> selectedDevice() const { return m_selectedDevice; }
     void selectDevice(int id) { m_selectedDevice = id; }
 
     std::optional<LogBookmark>& logBookmark() { return m_logBookmark; }
@@ -58,7 +58,7 @@ private:
     QTcpSocket* m_socket;
     QTimer m_idleTimer;
     QString m_peer;
-    int m_selectedDevice = 0;
+    std::optional<int> m_selectedDevice;
     std::optional<LogBookmark> m_logBookmark;
     bool m_closed = false;
 };

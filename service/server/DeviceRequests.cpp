@@ -57,7 +57,7 @@ void readRegistration(DeviceRegistration& device, const Element& request, const 
     device.userDefinedName = request.childText(QLatin1String("user_defined_name")).left(longestName);
     device.physicalIds.clear();
     for (const Element& child : request.children) {
-        const int id = child.text.toInt();
+        const int id = child.id();
         if (child.name == QLatin1String("phy_id") && id != device.id && findDevice(data, id) &&
             !device.physicalIds.contains(id))
             device.physicalIds.append(id);
@@ -111,7 +111,7 @@ void addDevice(const RequestScope& scope, const Element& request)
 void changeDevice(const RequestScope& scope, const Element& request)
 {
     const StoredData& data = scope.store().data();
-    const DeviceRegistration* known = findDevice(data, request.childText(QLatin1String("id")).toInt());
+    const DeviceRegistration* known = findDevice(data, request.childId(QLatin1String("id")));
     if (!known) {
         scope.refuse(QStringLiteral("There is no such device any more."));
         return;
@@ -141,8 +141,7 @@ void changeDevice(const RequestScope& scope, const Element& request)
 
 void changeLogging(const RequestScope& scope, const Element& request)
 {
-    const DeviceRegistration* known =
-        findDevice(scope.store().data(), request.childText(QLatin1String("id")).toInt());
+    const DeviceRegistration* known = findDevice(scope.store().data(), request.childId(QLatin1String("id")));
     if (!known) {
         scope.refuse(QStringLiteral("There is no such device any more."));
         return;
@@ -155,7 +154,7 @@ void changeLogging(const RequestScope& scope, const Element& request)
 
 void removeDevice(const RequestScope& scope, const Element& request)
 {
-    const int id = request.childText(QLatin1String("id")).toInt();
+    const int id = request.childId(QLatin1String("id"));
     if (!findDevice(scope.store().data(), id)) {
         scope.refuse(QStringLiteral("There is no such device any more."));
         return;

@@ -69,27 +69,27 @@ QVector<Element> computersFor(const RequestScope& scope)
 
 void sendPolicy(const RequestScope& scope, const Element& request)
 {
-    const Policy policy = scope.store().data().policies.value(request.childText(QLatin1String("id")).toInt());
+    const Policy policy = scope.store().data().policies.value(request.childId(QLatin1String("id")));
     scope.reply(elementsReply(QLatin1String("groups"), policy.groups));
     scope.reply(elementsReply(QLatin1String("events"), policy.events));
     scope.reply(elementsReply(QLatin1String("all_computers"), computersFor(scope)));
 }
 
-// The device whose policy is sent; 0 and a refusal if it is gone.
+// The device whose policy is sent; noDevice and a refusal if it is gone.
 int policyDevice(const RequestScope& scope, const Element& request)
 {
-    const int id = request.childText(QLatin1String("ups_id")).toInt();
+    const int id = request.childId(QLatin1String("ups_id"));
     if (scope.store().data().policies.contains(id))
         return id;
     scope.refuse(QStringLiteral("The policy was not saved: there is no such device any more."));
-    return 0;
+    return noDevice;
 }
 
 void saveGroups(const RequestScope& scope, const Element& request)
 {
     const int device = policyDevice(scope, request);
     const QVector<Element> groups = childrenNamed(request, QLatin1String("group"));
-    if (device == 0 || !fits(scope, QLatin1String("groups"), groups))
+    if (device == noDevice || !fits(scope, QLatin1String("groups"), groups))
         return;
     static_cast<void>(scope.change([&](StoredData& changed) { changed.policies[device].groups = groups; }));
 }
@@ -100,7 +100,7 @@ void saveEvents(const RequestScope& scope, const Element& request)
     QVector<Element> events = childrenNamed(request, QLatin1String("event"));
     for (Element& event : events)
         completeActions(event);
-    if (device == 0 || !fits(scope, QLatin1String("events"), events))
+    if (device == noDevice || !fits(scope, QLatin1String("events"), events))
         return;
     static_cast<void>(scope.change([&](StoredData& changed) { changed.policies[device].events = events; }));
 }

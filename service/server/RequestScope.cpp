@@ -20,9 +20,7 @@ RequestScope::RequestScope(const ServiceParts& parts, ClientSession& session, bo
 int RequestScope::device() const
 {
     const QVector<DeviceRegistration>& devices = store().data().devices;
-    if (m_session.selectedDevice() == 0 && !devices.isEmpty())
-        return devices.first().id;
-    return m_session.selectedDevice();
+    return m_session.selectedDevice().value_or(devices.isEmpty() ? noDevice : devices.first().id);
 }
 
 QVector<SerialPortStatus> RequestScope::ports() const

@@ -56,10 +56,8 @@ void sendShutdownTimers(const RequestScope& scope, const Element& /*request*/)
 
 void selectDevice(const RequestScope& scope, const Element& request)
 {
-    bool valid = false;
-    const int id = request.childText(QLatin1String("id")).toInt(&valid);
-    // A panel sends 0 for a device that it cannot name: nothing is then to be found.
-    scope.session().selectDevice(valid && id > 0 ? id : -1);
+    // With an id that no device has, nothing is to be found.
+    scope.session().selectDevice(request.childId(QLatin1String("id")));
 }
 
 } // namespace

@@ -210,7 +210,7 @@ std::optional<DeviceRegistration> registrationFromJson(const QJsonObject& object
     const QJsonArray members = object.value(QLatin1String("phy_ids")).toArray();
     for (const QJsonValue& member : members)
         device.physicalIds.append(member.toInt());
-    if (device.id <= 0 || device.modelName.isEmpty())
+    if (device.id < 0 || device.modelName.isEmpty())
         return std::nullopt;
     return device;
 }

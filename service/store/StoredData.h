@@ -22,7 +22,7 @@ struct Policy
 struct StoredData
 {
     QVector<DeviceRegistration> devices;
-    int nextDeviceId = 1; ///< ids are never used twice, so nothing kept for a removed device meets a new one
+    int nextDeviceId = 0; ///< ids are never used twice, so nothing kept for a removed device meets a new one
     QMap<int, KeyValues> settings; ///< lasting settings by device
     QMap<int, Policy> policies;    ///< by device
     QVector<Element> computers;

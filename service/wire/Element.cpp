@@ -93,6 +93,19 @@ QString Element::childText(QLatin1String childName) const
     return found ? found->text : QString();
 }
 
+int Element::id() const
+{
+    bool valid = false;
+    const int number = text.toInt(&valid);
+    return valid && number >= 0 ? number : -1;
+}
+
+int Element::childId(QLatin1String childName) const
+{
+    const Element* named = child(childName);
+    return named ? named->id() : -1;
+}
+
 void Element::add(const QString& childName, const QString& childText)
 {
     children.append(Element{childName, childText, {}});

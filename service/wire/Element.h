@@ -24,6 +24,10 @@ struct Element
     [[nodiscard]] Element* child(QLatin1String childName);
     /// Text of the first child of that name; empty if there is none.
     [[nodiscard]] QString childText(QLatin1String childName) const;
+    /// The element's text as an id; -1 if it is no number from 0 up.
+    [[nodiscard]] int id() const;
+    /// Id in the first child of that name; -1 if there is none.
+    [[nodiscard]] int childId(QLatin1String childName) const;
     /// Appends a child with a text.
     void add(const QString& childName, const QString& childText);
 };

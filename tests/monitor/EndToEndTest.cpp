@@ -66,26 +66,26 @@ void EndToEndTest::panelFollowsTheServiceThroughLossAndReturn()
     for (const UpsTreeElement* row : panel.tree()->allElements())
         rows.append(row->parent() ? QLatin1Char('+') + row->text(0) : row->text(0));
     QCOMPARE(rows.join(QLatin1Char('|')),
-             QStringLiteral("Serwerownia|+Serwerownia A|+Serwerownia B|Hala produkcyjna|Tarvex RT (USB)|"
-                            "Sieć biurowa|Portiernia|Kasa|Agregat|Magazyn|Quenta (USB)|<NIEZNANY>"));
+             QStringLiteral(
+                 "Server room|+Server room A|+Server room B|Production hall|Tarvex RT (USB)|"
+                 "Office network|Reception|Cash desk|Backup genset|Magazyn Łódź|Quenta (USB)|<NIEZNANY>"));
 
-    // Before any selection the row of unknown model, which counts as device 0, is taken for the selected one.
-    QVERIFY(select("Serwerownia"));
+    QCOMPARE(panel.tree()->currentElement(), panel.row(QStringLiteral("Server room")));
     QTRY_VERIFY_WITH_TIMEOUT(shows("loadProgressBar", percent), patience);
     QCOMPARE(panel.shown("modelNameEdit"), QStringLiteral("Wirtualny UPS"));
     QCOMPARE(panel.shown("serviceTitle"), QStringLiteral("Połączono z usługą:"));
     QTRY_COMPARE(panel.shown("serviceNote"), QStringLiteral("-"));
-    QTRY_VERIFY(panel.rowShows(panel.row(QStringLiteral("Serwerownia A")), "green_m"));
-    QTRY_VERIFY(panel.rowShows(panel.row(QStringLiteral("Magazyn")), "red"));
+    QTRY_VERIFY(panel.rowShows(panel.row(QStringLiteral("Server room A")), "green_m"));
+    QTRY_VERIFY(panel.rowShows(panel.row(QStringLiteral("Magazyn Łódź")), "red"));
 
-    QVERIFY(select("Hala produkcyjna"));
+    QVERIFY(select("Production hall"));
     QCOMPARE(panel.shown("loadLabel"), QStringLiteral("Obciążenie L1"));
     QTRY_VERIFY_WITH_TIMEOUT(shows("firmwareEdit", "\\S.*") && shows("nominalActivePowerEdit", "\\d+ kW"),
                              patience);
     for (const char* bar : {"loadProgressBar", "loadProgressBar_2", "loadProgressBar_3"})
         QVERIFY2(shows(bar, percent), qPrintable(panel.shown(bar)));
 
-    QVERIFY(select("Agregat"));
+    QVERIFY(select("Backup genset"));
     QCOMPARE(panel.shown("batteryStateLabel"), QStringLiteral("Poziom paliwa"));
     QTRY_VERIFY_WITH_TIMEOUT(shows("autonomyTimeEdit", "[\\d.]+ l"), patience);
     QVERIFY2(shows("temperatureEdit", "\\d+ h"), qPrintable(panel.shown("temperatureEdit")));
@@ -105,8 +105,8 @@ void EndToEndTest::panelFollowsTheServiceThroughLossAndReturn()
     panel.timer("reconnectTimer")->setInterval(50);
     QTRY_VERIFY_WITH_TIMEOUT(shows("autonomyTimeEdit", "[\\d.]+ l"), patience);
     QCOMPARE(panel.shown("serviceTitle"), QStringLiteral("Połączono z usługą:"));
-    QCOMPARE(panel.tree()->currentElement(), panel.row(QStringLiteral("Agregat")));
-    QTRY_VERIFY(panel.rowShows(panel.row(QStringLiteral("Serwerownia A")), "green_m"));
+    QCOMPARE(panel.tree()->currentElement(), panel.row(QStringLiteral("Backup genset")));
+    QTRY_VERIFY(panel.rowShows(panel.row(QStringLiteral("Server room A")), "green_m"));
     QVERIFY(stop(service));
 }
 

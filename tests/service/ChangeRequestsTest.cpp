@@ -244,6 +244,8 @@ void ChangeRequestsTest::badRegistrationIsRefused_data()
         << QByteArray("change_ups") << QByteArray("<id>99</id><model_name>A</model_name>");
     QTest::newRow("removal of a device that is gone")
         << QByteArray("remove_ups") << QByteArray("<id>99</id>");
+    QTest::newRow("removal of a row that names no device, beside a device 0")
+        << QByteArray("remove_ups") << QByteArray("<id></id>");
     QTest::newRow("groups of a device that is gone")
         << QByteArray("groups") << QByteArray("<ups_id>99</ups_id>");
     QTest::newRow("empty password") << QByteArray("change_password")

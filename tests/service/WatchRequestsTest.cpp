@@ -128,7 +128,7 @@ void WatchRequestsTest::stateDescribesTheChosenDevice_data()
     QTest::addColumn<QByteArray>("key");
     QTest::newRow("three-phase unit")
         << QByteArray("2") << QByteArray("1") << QByteArray("1") << QByteArray("events");
-    QTest::newRow("group") << QByteArray("1") << QByteArray("1") << QByteArray("1")
+    QTest::newRow("group") << QByteArray("0") << QByteArray("1") << QByteArray("1")
                            << QByteArray("rated_va_per_ups_module");
     QTest::newRow("genset") << QByteArray("9") << QByteArray("1") << QByteArray("1")
                             << QByteArray("fuel_level");
@@ -136,8 +136,7 @@ void WatchRequestsTest::stateDescribesTheChosenDevice_data()
     QTest::newRow("another model answers")
         << QByteArray("11") << QByteArray("1") << QByteArray("0") << QByteArray();
     QTest::newRow("no such device") << QByteArray("99") << QByteArray("0") << QByteArray("0") << QByteArray();
-    QTest::newRow("row of a model that the panel does not know")
-        << QByteArray("0") << QByteArray("0") << QByteArray("0") << QByteArray();
+    QTest::newRow("no id") << QByteArray() << QByteArray("0") << QByteArray("0") << QByteArray();
     QTest::newRow("no number") << QByteArray("x") << QByteArray("0") << QByteArray("0") << QByteArray();
 }
 
