@@ -11,5 +11,11 @@ void UpsTreeElement::setIconPath(const QString& path)
     if (m_iconPath == path)
         return;
     m_iconPath = path;
-    setIcon(0, path.isEmpty() ? QIcon() : QIcon(path));
+    QIcon icon;
+    if (!path.isEmpty()) {
+        icon.addFile(path);
+        // A selected row would tint the picture otherwise, and with it the colour that tells the state.
+        icon.addFile(path, QSize(), QIcon::Selected);
+    }
+    setIcon(0, icon);
 }

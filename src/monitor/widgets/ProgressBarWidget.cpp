@@ -15,11 +15,13 @@ constexpr int barHeight = 21;
 constexpr int fullBar = 100;
 
 // The text stands half on the groove and half on the filled part, so both colours have to bear it.
-void setTextColours(QProgressBar* bar)
+void setColours(QProgressBar* bar)
 {
     const QColor text(0x59, 0x59, 0x5B);
     const QColor disabledText(120, 120, 120);
+    const QColor filled(0x8F, 0xD0, 0xCE);
     QPalette palette = bar->palette();
+    palette.setColor(QPalette::Highlight, filled);
     for (const auto role : {QPalette::Text, QPalette::HighlightedText, QPalette::WindowText}) {
         palette.setColor(QPalette::Active, role, text);
         palette.setColor(QPalette::Inactive, role, text);
@@ -43,7 +45,7 @@ ProgressBarWidget::ProgressBarWidget(QWidget* parent)
     QFont font = progressBar->font();
     font.setBold(true);
     progressBar->setFont(font);
-    setTextColours(progressBar);
+    setColours(progressBar);
     helpButton->setToolTip(tr("Dane niedostępne w wybranym modelu"));
     auto* layout = new QHBoxLayout(this);
     layout->setSpacing(6);
