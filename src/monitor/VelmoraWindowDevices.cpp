@@ -94,7 +94,7 @@ void VelmoraWindow::showStatus(UpsTreeElement* element, const currentDeviceStatu
     ups.ups_shutdown_supported = status.ups_shutdown_supported;
     ups.unit_address = QString::fromStdString(status.unit_address);
     element->setIconPath(Velmora::indicatorPath(status.status, status.master));
-    if (status.id == currentDevice.id.toInt())
+    if (!currentDevice.id.isEmpty() && status.id == currentDevice.id.toInt())
         setCurrentDevice(element);
 }
 
@@ -105,6 +105,9 @@ void VelmoraWindow::upsCurrentStatusListMessageReceived(const QVector<currentDev
     const QSignalBlocker blocker(upsTree);
     const QModelIndex selected = upsTree->currentIndex();
     for (UpsTreeElement* element : upsTree->allElements()) {
+        // A row of unknown model stands for no device, although its id would read as 0.
+        if (element->ups.id.isEmpty())
+            continue;
         const int id = element->ups.id.toInt();
         for (const currentDeviceStatus& status : statuses) {
             if (status.id == id)
