@@ -146,23 +146,27 @@ void WindowTreeTest::emptyListPromptsOncePerRun()
 void WindowTreeTest::statusListPaintsRowsWithoutTellingTheService()
 {
     WindowFixture panel;
-    QVERIFY(panel.open(deviceList({device(9, "Virtual_Device", "V", {1}), device(1, "Tarvex33_SNMP", "A"),
+    QVERIFY(panel.open(deviceList({device(8, "Virtual_Device", "V", {1}),
+                                   device(9, "Virtual_Device", "W", {1}), device(1, "Tarvex33_SNMP", "A"),
                                    device(2, "CormelRT_XL_SNMP", "B"), device(7, "Nothing_USB")})));
-    panel.tree()->setCurrentItem(panel.row(kept));
+    // The selected unit stands in two groups, and painting the other row of it must not move the selection.
+    UpsTreeElement* selected = panel.row(QStringLiteral("A"));
+    panel.tree()->setCurrentItem(selected);
     QVERIFY(panel.settle());
     panel.service.clearRequests();
 
-    // 0 is what a row of unknown model reads as, and no device has the id 55.
-    QVERIFY(panel.send(statusList({{1, "on_power_line*"}, {2, "on_battery"}, {55, "unknown"}})));
-    QVERIFY(panel.rowShows(panel.row(QStringLiteral("A")), "green_m"));
+    // 0 is what the empty id of a row of unknown model reads as, and no device has the id 55.
+    QVERIFY(panel.send(
+        statusList({{1, "on_power_line*"}, {2, "on_battery"}, {0, "on_battery"}, {55, "unknown"}})));
+    QVERIFY(panel.rowShows(panel.row(QStringLiteral("<NIEZNANY>")), "unknown"));
+    QVERIFY(panel.rowShows(selected, "green_m"));
     QVERIFY(panel.rowShows(panel.row(kept), "yellow"));
     QVERIFY(panel.rowShows(panel.row(QStringLiteral("V")), "grey"));
-    QVERIFY(panel.rowShows(panel.row(QStringLiteral("<NIEZNANY>")), "unknown"));
 
     QVERIFY(panel.send(statusList({{1, "no_communication"}})));
-    QVERIFY(panel.rowShows(panel.row(QStringLiteral("A")), "red"));
+    QVERIFY(panel.rowShows(selected, "red"));
     QVERIFY2(panel.rowShows(panel.row(kept), "yellow"), "a device that is not listed keeps its picture");
-    QCOMPARE(panel.tree()->currentElement(), panel.row(kept));
+    QCOMPARE(panel.tree()->currentElement(), selected);
     QCOMPARE(requests(panel.service), QStringList());
 }
 
