@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "service/device/DeviceTypes.h"
 #include "service/logs/LogBook.h"
 
 #include <QObject>
@@ -41,8 +42,8 @@ public:
     void sendFrame(const QByteArray& frame);
     void close(const QString& reason);
 
-    /// The device that state, configuration and logs are asked for; none until the panel has chosen one.
-    [[nodiscard]] std::optional<int> selectedDevice() const { return m_selectedDevice; }
+    /// The device that state, configuration and logs are asked for; noDevice until the panel has chosen one.
+    [[nodiscard]] int selectedDevice() const { return m_selectedDevice; }
     void selectDevice(int id) { m_selectedDevice = id; }
 
     std::optional<LogBookmark>& logBookmark() { return m_logBookmark; }
@@ -58,7 +59,7 @@ private:
     QTcpSocket* m_socket;
     QTimer m_idleTimer;
     QString m_peer;
-    std::optional<int> m_selectedDevice;
+    int m_selectedDevice = noDevice;
     std::optional<LogBookmark> m_logBookmark;
     bool m_closed = false;
 };

@@ -17,12 +17,6 @@ RequestScope::RequestScope(const ServiceParts& parts, ClientSession& session, bo
     , m_broadcast(broadcast)
 {}
 
-int RequestScope::device() const
-{
-    const QVector<DeviceRegistration>& devices = store().data().devices;
-    return m_session.selectedDevice().value_or(devices.isEmpty() ? noDevice : devices.first().id);
-}
-
 QVector<SerialPortStatus> RequestScope::ports() const
 {
     QVector<SerialPortStatus> ports;

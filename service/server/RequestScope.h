@@ -38,8 +38,7 @@ public:
     /// The request carries the administrator password.
     [[nodiscard]] bool isAdministrator() const { return m_administrator; }
 
-    /// The device that this panel has chosen, or the first one.
-    [[nodiscard]] int device() const;
+    [[nodiscard]] int device() const { return m_session.selectedDevice(); }
     [[nodiscard]] QVector<SerialPortStatus> ports() const;
 
     /// Changes the stored data; if they cannot be written, tells the panel and gives false.

@@ -17,6 +17,8 @@ void sendStatusList(const RequestScope& scope, const Element& /*request*/)
     scope.reply(statusListReply(scope.backend().devices()));
 }
 
+// A panel that has just come back may ask before it has chosen: what another device reports would stand under
+// the name of the one it shows, so until then there is no device to be found.
 void sendDeviceState(const RequestScope& scope, const Element& /*request*/)
 {
     const int device = scope.device();

@@ -158,6 +158,7 @@ void WatchRequestsTest::choiceBelongsToTheConnection()
 {
     PanelClient other;
     m_client->send("change_device_on_interface", "<id>9</id>");
+    QVERIFY(other.ask("get_ups_device_state", "ups_device_state").contains("isUpsFound=\"0\""));
     other.send("change_device_on_interface", "<id>5</id>");
     QCOMPARE(text(m_client->ask("get_ups_device_state", "ups_device_state"), "firmware_version"),
              QByteArray("BC-25 v1.14"));
