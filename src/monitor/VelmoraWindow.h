@@ -111,7 +111,7 @@ private:
     static void setEnabledStatus(bool enabled, const QList<QWidget*>& widgets);
     static void setEnabledStatus(bool enabled, const QList<QAction*>& actions);
     void setDeviceFieldsEnabled(bool enabled);
-    [[nodiscard]] Velmora::DeviceStateView viewOf(const QMap<QString, QString>& report);
+    [[nodiscard]] const Velmora::DeviceStateView& viewOf(const QMap<QString, QString>& report);
     void disableDeviceControls();
     void removeDebugMarker();
     [[nodiscard]] static QString debugMarker();

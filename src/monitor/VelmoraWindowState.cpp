@@ -48,7 +48,7 @@ void VelmoraWindow::disableDeviceControls()
     setEnabledStatus(false, QList<QAction*>{ui->actionExtendInformation, ui->actionUpsConfiguration});
 }
 
-Velmora::DeviceStateView VelmoraWindow::viewOf(const QMap<QString, QString>& report)
+const Velmora::DeviceStateView& VelmoraWindow::viewOf(const QMap<QString, QString>& report)
 {
     if (!m_view || report != m_viewReport || currentDevice.model_name != m_viewModel) {
         m_viewReport = report;
@@ -60,7 +60,7 @@ Velmora::DeviceStateView VelmoraWindow::viewOf(const QMap<QString, QString>& rep
 
 void VelmoraWindow::upsDeviceState(const QMap<QString, QString>& parameters)
 {
-    const Velmora::DeviceStateView view = viewOf(parameters);
+    const Velmora::DeviceStateView& view = viewOf(parameters);
     setEnabledStatus(view.extendedInformationAvailable,
                      QList<QWidget*>{ui->exInfoButton, ui->upsEventsButton});
     ui->actionExtendInformation->setEnabled(view.extendedInformationAvailable);
