@@ -30,7 +30,7 @@ QByteArray countdown(int seconds)
            "</time></show_countdown>";
 }
 
-int pixels(const QWidget* widget, bool (*matches)(QColor))
+int pixels(const QWidget* widget, bool (*matches)(const QColor&))
 {
     const QImage image = const_cast<QWidget*>(widget)->grab().toImage();
     int count = 0;
@@ -41,12 +41,12 @@ int pixels(const QWidget* widget, bool (*matches)(QColor))
     return count;
 }
 
-bool isRed(QColor colour)
+bool isRed(const QColor& colour)
 {
     return colour.red() > 180 && colour.green() < 90 && colour.blue() < 90;
 }
 
-bool isBlack(QColor colour)
+bool isBlack(const QColor& colour)
 {
     return colour.lightness() < 40;
 }
