@@ -6,11 +6,14 @@
 #include "link/Frame.h"
 #include "link/MessageReader.h"
 #include "link/Sleep.h"
+#include "link/TimerHelpers.h"
 #include "link/VelmoraSocket.h"
 
 #include <QTimer>
 
 namespace Velmora {
+
+using Utils::endTimer;
 
 namespace {
 
@@ -18,17 +21,6 @@ constexpr int reconnectInterval = 5000;
 constexpr int pollInterval = 1000;
 constexpr unsigned long settlingTime = 200;
 constexpr int ticksPerConfiguration = 3;
-
-// The timer may be the one whose timeout is being handled, so it is only marked for deletion.
-void endTimer(QTimer*& timer)
-{
-    if (!timer)
-        return;
-    timer->stop();
-    timer->disconnect();
-    timer->deleteLater();
-    timer = nullptr;
-}
 
 void registerMetaTypes()
 {
