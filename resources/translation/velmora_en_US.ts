@@ -2,6 +2,35 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="pl">
 <context>
+    <name>ConnectWithServiceWindow</name>
+    <message>
+        <source>Połącz z usługą</source>
+        <translation>Connect to service</translation>
+    </message>
+    <message>
+        <source>Łączenie</source>
+        <translation>Connection</translation>
+    </message>
+    <message>
+        <source>Adres IP</source>
+        <translation>IP address</translation>
+    </message>
+    <message>
+        <source>Uwaga</source>
+        <translation>Attention</translation>
+    </message>
+    <message>
+        <source>Należy podać adres IP lub nazwę domenową komputera</source>
+        <translation>Please enter the IP address or the domain name of the computer</translation>
+    </message>
+    <message>
+        <source>Nie można zapisać adresu usługi w pliku ustawień.
+Zmiana obowiązuje do zakończenia programu.</source>
+        <translation>The address of the service could not be saved in the settings file.
+The change holds until the program ends.</translation>
+    </message>
+</context>
+<context>
     <name>DebugWarningWidget</name>
     <message>
         <source>TRYB DEBUGGOWANIA</source>
@@ -372,6 +401,10 @@ UPS module</translation>
         <source>Częstotliwość w sieci elektrycznej</source>
         <translation>Mains frequency</translation>
     </message>
+    <message>
+        <source>Informacje rozszerzone</source>
+        <translation>Extended information</translation>
+    </message>
 </context>
 <context>
     <name>LineEditWidget</name>
@@ -382,6 +415,96 @@ UPS module</translation>
     <message>
         <source>Dane niedostępne przy użyciu wybranego interfejsu komunikacyjnego</source>
         <translation>Not available over the selected communication interface</translation>
+    </message>
+</context>
+<context>
+    <name>LogiInWindow</name>
+    <message>
+        <source>Zaloguj</source>
+        <translation>Log in</translation>
+    </message>
+    <message>
+        <source>Hasło</source>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>Podpowiedź hasła</source>
+        <translation>Password hint</translation>
+    </message>
+    <message>
+        <source>Nieprawidłowe hasło</source>
+        <translation>Wrong password</translation>
+    </message>
+    <message>
+        <source>Podane hasło Administratora jest nieprawidłowe</source>
+        <translation>The administrator password is not correct</translation>
+    </message>
+    <message>
+        <source>Błąd połączenia</source>
+        <translation>Connection error</translation>
+    </message>
+    <message>
+        <source>Brak połączenia z usługą</source>
+        <translation>No connection to the service</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordChangeWindow</name>
+    <message>
+        <source>Zmiana hasła</source>
+        <translation>Change password</translation>
+    </message>
+    <message>
+        <source>Stare hasło</source>
+        <translation>Old password</translation>
+    </message>
+    <message>
+        <source>Nowe hasło</source>
+        <translation>New password</translation>
+    </message>
+    <message>
+        <source>Powtórz nowe hasło</source>
+        <translation>Repeat new password</translation>
+    </message>
+    <message>
+        <source>Zmień hasło dla </source>
+        <translation>Change password for </translation>
+    </message>
+    <message>
+        <source>Nieprawidłowe hasło</source>
+        <translation>Wrong password</translation>
+    </message>
+    <message>
+        <source>Wprowadzono nieprawidłowe hasło administratora</source>
+        <translation>The administrator password that was entered is not correct</translation>
+    </message>
+    <message>
+        <source>Uwaga</source>
+        <translation>Attention</translation>
+    </message>
+    <message>
+        <source>Proszę wprowadzić nowe hasło</source>
+        <translation>Please enter a new password</translation>
+    </message>
+    <message>
+        <source>Błąd</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Proszę sprawdzić nowe hasło</source>
+        <translation>Please check the new password</translation>
+    </message>
+    <message>
+        <source>Hasło zostało zmienione</source>
+        <translation>The password has been changed</translation>
+    </message>
+    <message>
+        <source>Brak odpowiedzi</source>
+        <translation>No answer</translation>
+    </message>
+    <message>
+        <source>Usługa Velmora jest nieosiągalna</source>
+        <translation>The Velmora service cannot be reached</translation>
     </message>
 </context>
 <context>
@@ -1057,6 +1180,10 @@ UPS module</translation>
         <source>ECO/Bypass</source>
         <translation>ECO/Bypass</translation>
     </message>
+    <message>
+        <source>Domyślne hasło: </source>
+        <translation>Default password: </translation>
+    </message>
 </context>
 <context>
     <name>UpsEventsWindow</name>
@@ -1267,6 +1394,14 @@ UPS module</translation>
     <message>
         <source>----</source>
         <translation>----</translation>
+    </message>
+    <message>
+        <source>Zdarzenia</source>
+        <translation>Events</translation>
+    </message>
+    <message>
+        <source>Pobieranie zdarzeń...</source>
+        <translation>Fetching events...</translation>
     </message>
 </context>
 <context>

@@ -164,6 +164,14 @@ void VelmoraWindow::connectTree()
 
 void VelmoraWindow::connectForm()
 {
+    connect(ui->exInfoButton, &QPushButton::clicked, this,
+            &VelmoraWindow::extendInformationButtonClickHandler);
+    connect(ui->actionExtendInformation, &QAction::triggered, this,
+            &VelmoraWindow::extendInformationButtonClickHandler);
+    connect(ui->upsEventsButton, &QPushButton::clicked, this, &VelmoraWindow::upsEventsButtonClickHandler);
+    connect(ui->actionActAsAdministrator, &QAction::triggered, this, &VelmoraWindow::logIn);
+    connect(ui->actionChangePassword, &QAction::triggered, this, &VelmoraWindow::changeAdminPass);
+    connect(ui->actionConnectWithService, &QAction::triggered, this, &VelmoraWindow::connectWithService);
     connect(ui->actionExit, &QAction::triggered, this, &VelmoraWindow::reallyClose);
     connect(ui->actionLogout, &QAction::triggered, this, &VelmoraWindow::disableAdministratorButtons);
     connect(ui->actionOnlineHelp, &QAction::triggered, this, &VelmoraWindow::onlineHelpButtonClickHandler);

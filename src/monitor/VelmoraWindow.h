@@ -10,17 +10,23 @@
 #include <QList>
 #include <QMainWindow>
 #include <QMap>
+#include <QPointer>
 #include <QSystemTrayIcon>
 #include <QTimer>
 
 #include <memory>
 #include <optional>
 
+class ConnectWithServiceWindow;
 class DebugWarningWidget;
 class DeviceStatePanel;
+class ExtendInformationWindow;
+class LogiInWindow;
+class PasswordChangeWindow;
 class QLocalServer;
 class QMenu;
 class QMovie;
+class UpsEventsWindow;
 class UpsTreeElement;
 class UpsTreeWidget;
 class VLStatusWidget;
@@ -51,6 +57,8 @@ signals:
     void signalEmptyUpsList();
 
 public slots:
+    void extendInformationButtonClickHandler();
+    void upsEventsButtonClickHandler();
     void onlineHelpButtonClickHandler();
 
     void upsDeviceState(const QMap<QString, QString>& parameters);
@@ -74,8 +82,11 @@ public slots:
     void reallyClose();
     void newLocalInstanceConnection();
 
+    void logIn();
     void enableAdministratorButtons();
     void disableAdministratorButtons();
+    void changeAdminPass();
+    void connectWithService();
     void connectingInProgress();
 
     void deleteActionHandler(int row);
@@ -120,6 +131,13 @@ private:
     std::unique_ptr<Ui::VelmoraWindow> ui;
     std::unique_ptr<DeviceStatePanel> m_statePanel;
     std::unique_ptr<Velmora::UpsSocketController> socketController;
+
+    // Null unless the dialog is open; replies that concern it are handed on.
+    QPointer<LogiInWindow> logInWindow;
+    QPointer<PasswordChangeWindow> passwordChangeWindow;
+    QPointer<ConnectWithServiceWindow> connectWithServiceWindow;
+    QPointer<ExtendInformationWindow> extendInformationWindow;
+    QPointer<UpsEventsWindow> upsEventsWindow;
 
     std::unique_ptr<QMenu> trayMenu;
     std::unique_ptr<QSystemTrayIcon> trayIcon;

@@ -5,6 +5,8 @@
 #include "devices/core/ModelRules.h"
 #include "link/UpsSocketController.h"
 #include "monitor/DeviceStatePanel.h"
+#include "monitor/ExtendInformationWindow.h"
+#include "monitor/UpsEventsWindow.h"
 #include "monitor/UpsTreeElement.h"
 #include "monitor/UpsTreeWidget.h"
 #include "monitor/core/IndicatorNames.h"
@@ -71,7 +73,12 @@ void VelmoraWindow::upsDeviceState(const QMap<QString, QString>& parameters)
     }
     upsConnected();
     m_statePanel->showState(view);
-    lastDeviceState = view.report;
+    if (extendInformationWindow)
+        extendInformationWindow->updateControls(view.report);
+    else
+        lastDeviceState = view.report;
+    if (upsEventsWindow)
+        upsEventsWindow->updateControls(view.events);
 }
 
 void VelmoraWindow::upsConfiguration(const QMap<QString, QString>& parameters)

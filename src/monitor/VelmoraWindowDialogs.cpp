@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The Velmora developers
+// SPDX-License-Identifier: MIT
+#include "monitor/VelmoraWindow.h"
+
+#include "admin/ConnectWithServiceWindow.h"
+#include "admin/LogiInWindow.h"
+#include "admin/PasswordChangeWindow.h"
+#include "app/ControlPanelConfiguration.h"
+#include "devices/core/ModelRules.h"
+#include "link/UpsSocketController.h"
+#include "monitor/ExtendInformationWindow.h"
+#include "monitor/ModalDialog.h"
+#include "monitor/UpsEventsWindow.h"
+
+using Velmora::runModal;
+using Velmora::UpsSocketController;
+
+// The dialogs: made, wired and run.
+
+void VelmoraWindow::logIn()
+{
+    auto* dialog = new LogiInWindow(socketController.get(), this);
+    connect(dialog, &LogiInWindow::getPassword, socketController.get(), &UpsSocketController::getPassword);
+    connect(dialog, &LogiInWindow::enableAdminButtons, this, &VelmoraWindow::enableAdministratorButtons);
+    connect(socketController.get(), &UpsSocketController::adminPassFromConfig, dialog,
+            &LogiInWindow::comparePasswords);
+    runModal(logInWindow, dialog);
+}
+
+void VelmoraWindow::changeAdminPass()
+{
+    auto* dialog = new PasswordChangeWindow(ControlPanelConfiguration().getServerAddress(),
+                                            socketController.get(), this);
+    connect(dialog, &PasswordChangeWindow::getPassword, socketController.get(),
+            &UpsSocketController::getPassword);
+    connect(dialog, &PasswordChangeWindow::changePassword, socketController.get(),
+            &UpsSocketController::changePassword);
+    connect(socketController.get(), &UpsSocketController::adminPassFromConfig, dialog,
+            &PasswordChangeWindow::comparePasswords);
+    connect(socketController.get(), &UpsSocketController::passwordChanged, dialog,
+            &PasswordChangeWindow::passwordChanged);
+    runModal(passwordChangeWindow, dialog);
+}
+
+void VelmoraWindow::connectWithService()
+{
+    auto* dialog = new ConnectWithServiceWindow(this);
+    dialog->setSocketController(socketController.get());
+    runModal(connectWithServiceWindow, dialog,
+             [this](ConnectWithServiceWindow& /*accepted*/) { connectingInProgress(); });
+}
+
+void VelmoraWindow::extendInformationButtonClickHandler()
+{
+    auto* dialog = new ExtendInformationWindow(Velmora::isGenset(currentDevice.model_name), this);
+    dialog->updateControls(lastDeviceState);
+    runModal(extendInformationWindow, dialog);
+}
+
+void VelmoraWindow::upsEventsButtonClickHandler()
+{
+    auto* dialog = new UpsEventsWindow(this);
+    dialog->updateControls(lastDeviceState.value(QStringLiteral("events")));
+    runModal(upsEventsWindow, dialog);
+}
