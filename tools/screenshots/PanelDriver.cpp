@@ -6,7 +6,11 @@
 #include "monitor/UpsTreeWidget.h"
 #include "monitor/widgets/LineEditWidget.h"
 
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
 #include <QDeadlineTimer>
+#include <QDialog>
 #include <QEventLoop>
 #include <QLabel>
 #include <QProgressBar>
@@ -88,8 +92,30 @@ QString PanelDriver::describe() const
         .arg(element->text(0), element->modelFullName, fieldText("workModeEdit"), load);
 }
 
-bool PanelDriver::save(const QString& path) const
+bool PanelDriver::withDialog(const char* opener, const std::function<void(QDialog*)>& use) const
 {
-    QScreen* screen = m_window->windowHandle()->screen();
-    return screen->grabWindow(m_window->winId()).save(path);
+    constexpr int lookInterval = 50;
+    bool used = false;
+    // The action returns only when its dialog is closed, so the dialog is used from a timer that runs
+    // meanwhile.
+    QTimer looks;
+    QObject::connect(&looks, &QTimer::timeout, m_window, [&] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!dialog || used)
+            return;
+        used = true;
+        use(dialog);
+    });
+    looks.start(lookInterval);
+    if (auto* action = m_window->findChild<QAction*>(QLatin1String(opener)))
+        action->trigger();
+    else
+        m_window->findChild<QAbstractButton*>(QLatin1String(opener))->click();
+    return used;
+}
+
+bool PanelDriver::save(const QString& path, const QWidget* window) const
+{
+    const QWidget* pictured = window ? window : m_window;
+    return pictured->windowHandle()->screen()->grabWindow(pictured->winId()).save(path);
 }

@@ -6,6 +6,7 @@
 
 #include <functional>
 
+class QDialog;
 class QWidget;
 
 /// Looks at the main window and selects devices in it as a user would, by what stands on the screen.
@@ -29,8 +30,12 @@ public:
     /// The selected device's row, model, work mode and load, as text.
     [[nodiscard]] QString describe() const;
 
-    /// Writes what the display shows of the window.
-    [[nodiscard]] bool save(const QString& path) const;
+    /// Triggers the action or button of this object name and calls `use` with the dialog that it opens.
+    /// Returns when the dialog is closed, which `use` sees to. False if no dialog came up.
+    [[nodiscard]] bool withDialog(const char* opener, const std::function<void(QDialog*)>& use) const;
+
+    /// Writes what the display shows of a window, the main window unless another is given.
+    [[nodiscard]] bool save(const QString& path, const QWidget* window = nullptr) const;
 
 private:
     [[nodiscard]] QString fieldText(const char* name) const;

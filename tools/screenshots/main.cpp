@@ -1,14 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Velmora developers
 // SPDX-License-Identifier: MIT
+#include "admin/core/PasswordRules.h"
 #include "app/ControlPanelConfiguration.h"
 #include "app/Startup.h"
 #include "monitor/VelmoraWindow.h"
+#include "screenshots/Album.h"
 #include "screenshots/PanelDriver.h"
 #include "screenshots/ServiceProcess.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QDir>
+#include <QDialog>
+#include <QLineEdit>
 #include <QTranslator>
 
 #include <cstdio>
@@ -23,39 +26,6 @@ constexpr int firstValuesTime = 20000;
 constexpr int reportTime = 4000;
 constexpr int lossTime = 15000;
 
-class Album final
-{
-public:
-    Album(PanelDriver& panel, const QString& folder)
-        : m_panel(panel)
-        , m_folder(folder)
-    {}
-
-    /// Waits for `condition`, then saves a picture. False, with the reason, if it never holds.
-    bool add(const QString& name, const QString& caption, const std::function<bool()>& condition, int time)
-    {
-        if (!PanelDriver::waitUntil(condition, time)) {
-            std::fprintf(stderr, "velmora-screenshots: no picture of \"%s\": it did not come within %d s\n",
-                         qUtf8Printable(caption), time / 1000);
-            return false;
-        }
-        // What has just been set still has to be painted.
-        QCoreApplication::processEvents();
-        const QString path = m_folder.filePath(name + QLatin1String(".png"));
-        if (!m_panel.save(path)) {
-            std::fprintf(stderr, "velmora-screenshots: cannot write %s\n", qUtf8Printable(path));
-            return false;
-        }
-        std::printf("%s\n    %s: %s\n", qUtf8Printable(path), qUtf8Printable(caption),
-                    qUtf8Printable(m_panel.describe()));
-        return true;
-    }
-
-private:
-    PanelDriver& m_panel;
-    QDir m_folder;
-};
-
 struct DevicePicture
 {
     const char* model; ///< beginning of the config name
@@ -69,6 +39,17 @@ constexpr DevicePicture devicePictures[] = {
     {"Borel", "genset", "a genset"},
 };
 
+// Selects a device and waits for its values; false if there is none of that model.
+bool showDevice(PanelDriver& panel, const char* model)
+{
+    const QStringList before = panel.values();
+    if (!panel.select(QLatin1String(model)))
+        return false;
+    // The first report after a selection may still be one of the device before, and the two may be alike.
+    (void)PanelDriver::waitUntil([&] { return panel.values() != before; }, reportTime);
+    return true;
+}
+
 bool takeDevicePictures(PanelDriver& panel, Album& album)
 {
     const auto live = [&panel] { return panel.showsLiveValues(); };
@@ -76,15 +57,34 @@ bool takeDevicePictures(PanelDriver& panel, Album& album)
                    firstValuesTime))
         return false;
     for (const DevicePicture& picture : devicePictures) {
-        const QStringList before = panel.values();
-        if (!panel.select(QLatin1String(picture.model)))
-            continue;
-        // The first report after a selection may still be one of the device before, and the two may be alike.
-        (void)PanelDriver::waitUntil([&] { return panel.values() != before; }, reportTime);
-        if (!album.add(QLatin1String(picture.name), QLatin1String(picture.caption), live, firstValuesTime))
+        if (showDevice(panel, picture.model) &&
+            !album.add(QLatin1String(picture.name), QLatin1String(picture.caption), live, firstValuesTime))
             return false;
     }
     return true;
+}
+
+// The service is one of the program's own, with the password that it is installed with.
+bool takeDialogPictures(PanelDriver& panel, Album& album)
+{
+    if (!showDevice(panel, "Tarvex33"))
+        return false;
+    const bool watching =
+        album.addDialog("exInfoButton", QStringLiteral("extended-information"),
+                        QStringLiteral("every measurement")) &&
+        album.addDialog("upsEventsButton", QStringLiteral("events"), QStringLiteral("the event history")) &&
+        album.addDialog("actionConnectWithService", QStringLiteral("service-address"),
+                        QStringLiteral("the service's address")) &&
+        album.addDialog("actionActAsAdministrator", QStringLiteral("login"), QStringLiteral("the login"));
+    return watching &&
+           panel.withDialog("actionActAsAdministrator",
+                            [](QDialog* dialog) {
+                                dialog->findChild<QLineEdit*>()->setText(
+                                    Velmora::defaultAdministratorPassword());
+                                dialog->accept();
+                            }) &&
+           album.addDialog("actionChangePassword", QStringLiteral("password"),
+                           QStringLiteral("a new administrator password"));
 }
 
 bool takeLossPictures(PanelDriver& panel, Album& album, ServiceProcess& service)
@@ -114,7 +114,8 @@ int takePictures(const QString& serviceProgram, const QString& address, const QS
     PanelDriver panel(&window);
     Album album(panel, folder);
     const bool done =
-        takeDevicePictures(panel, album) && (!service || takeLossPictures(panel, album, *service));
+        takeDevicePictures(panel, album) &&
+        (!service || (takeDialogPictures(panel, album) && takeLossPictures(panel, album, *service)));
     std::printf("%d devices in the tree\n", panel.deviceCount());
     return done ? 0 : 1;
 }

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Velmora developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDir>
+
+#include <functional>
+
+class PanelDriver;
+
+/// Pictures of the panel in a folder, each told of on standard output.
+class Album final
+{
+public:
+    Album(PanelDriver& panel, const QString& folder);
+
+    /// Waits for `condition`, then saves a picture of the main window. False, with the reason on standard
+    /// error, if it does not hold within `milliseconds`.
+    [[nodiscard]] bool add(const QString& name, const QString& caption,
+                           const std::function<bool()>& condition, int milliseconds);
+
+    /// Saves a picture of the dialog that an action or button of the main window opens, and closes it.
+    [[nodiscard]] bool addDialog(const char* opener, const QString& name, const QString& caption);
+
+private:
+    [[nodiscard]] bool save(const QString& name, const QString& caption, const QWidget* window);
+
+    PanelDriver& m_panel;
+    QDir m_folder;
+};
