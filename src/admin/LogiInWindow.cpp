@@ -54,8 +54,17 @@ void LogiInWindow::accept()
     emit getPassword();
 }
 
+void LogiInWindow::done(int result)
+{
+    Velmora::Utils::endTimer(noResponseTimer);
+    m_closed = true;
+    QDialog::done(result);
+}
+
 void LogiInWindow::comparePasswords(const QString& pass)
 {
+    if (m_closed)
+        return;
     Velmora::Utils::endTimer(noResponseTimer);
     if (Velmora::Utils::makeMd5(ui->passwordEdit->text()) != pass) {
         Velmora::Utils::displayMsgBox(tr("Nieprawidłowe hasło"),

@@ -34,6 +34,7 @@ signals:
 public slots:
     /// Asks the service; the dialog stays open until its answer fits.
     void accept() override;
+    void done(int result) override;
     void comparePasswords(const QString& pass);
     void noResponseTimeout();
     void displayHint();
@@ -42,4 +43,5 @@ private:
     std::unique_ptr<Ui::LogiInWindow> ui;
     QTimer* noResponseTimer = nullptr; ///< exists only while an answer is awaited
     Velmora::UpsSocketController* m_controller;
+    bool m_closed = false; ///< an answer may still come in before the dialog is deleted
 };

@@ -62,8 +62,16 @@ void PasswordChangeWindow::reject()
     QDialog::reject();
 }
 
+void PasswordChangeWindow::done(int result)
+{
+    m_closed = true;
+    QDialog::done(result);
+}
+
 void PasswordChangeWindow::comparePasswords(const QString& password)
 {
+    if (m_closed)
+        return;
     timerStop();
     adminChange = true;
     const Velmora::PasswordChangeEntry change = entry();
@@ -76,6 +84,8 @@ void PasswordChangeWindow::comparePasswords(const QString& password)
 
 void PasswordChangeWindow::compareNetclientPassword(const QString& password)
 {
+    if (m_closed)
+        return;
     timerStop();
     adminChange = false;
     const Velmora::PasswordChangeEntry change = entry();

@@ -43,6 +43,7 @@ public slots:
     /// Asks for the present digest; the dialog stays open until the change is confirmed.
     void accept() override;
     void reject() override;
+    void done(int result) override;
     void comparePasswords(const QString& password);
     void compareNetclientPassword(const QString& password);
     void passwordChanged();
@@ -60,4 +61,5 @@ private:
     QString newPassword;            ///< what was sent: the field may have been edited since
     bool adminChange = false;       ///< the administrator password is being changed
     bool m_changeRequested = false; ///< a confirmation that nobody asked for means somebody else's change
+    bool m_closed = false;          ///< a digest may still come in before the dialog is deleted
 };
