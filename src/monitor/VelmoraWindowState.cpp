@@ -24,7 +24,7 @@ void VelmoraWindow::setEnabledStatus(bool enabled, const QList<QWidget*>& widget
         if (auto* valueWidget = dynamic_cast<AbstractWidget*>(widget))
             valueWidget->setEnabled(enabled);
         else
-            widget->setEnabled(enabled);
+            widget->setEnabled(enabled); // NOLINT(clang-analyzer-core.CallAndMessage): the lists hold no null
     }
 }
 
