@@ -2,6 +2,49 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="pl">
 <context>
+    <name>AddUpsWindow</name>
+    <message>
+        <source>Nowy UPS</source>
+        <translation>New UPS</translation>
+    </message>
+    <message>
+        <source>Konfiguracja podstawowa</source>
+        <translation>Basic settings</translation>
+    </message>
+    <message>
+        <source>Model UPS</source>
+        <translation>UPS model</translation>
+    </message>
+    <message>
+        <source>Interfejs komunikacyjny</source>
+        <translation>Communication interface</translation>
+    </message>
+    <message>
+        <source>Port komunikacyjny</source>
+        <translation>Communication port</translation>
+    </message>
+    <message>
+        <source>Opcje SNMP</source>
+        <translation>SNMP options</translation>
+    </message>
+    <message>
+        <source>Nazwa UPS</source>
+        <translation>UPS name</translation>
+    </message>
+    <message>
+        <source>Uwaga</source>
+        <translation>Attention</translation>
+    </message>
+    <message>
+        <source>Oprogramowanie wspiera monitorowanie tylko jednego urządzenia tej klasy</source>
+        <translation>The software supports monitoring only one device of this class</translation>
+    </message>
+    <message>
+        <source>Konfiguracja dla tego zasilacza zostanie przywrócona do domyślnych zdarzeń. Czy kontynuować?</source>
+        <translation>The event policy of this UPS will be reset to the default events. Do you want to continue?</translation>
+    </message>
+</context>
+<context>
     <name>ConnectWithServiceWindow</name>
     <message>
         <source>Połącz z usługą</source>
@@ -1186,6 +1229,43 @@ UPS module</translation>
     </message>
 </context>
 <context>
+    <name>SnmpOptionsWindow</name>
+    <message>
+        <source>Konfiguracja SNMP</source>
+        <translation>SNMP settings</translation>
+    </message>
+    <message>
+        <source>Adres agenta</source>
+        <translation>Agent address</translation>
+    </message>
+    <message>
+        <source>Hasło odczytu</source>
+        <translation>Read community</translation>
+    </message>
+    <message>
+        <source>Hasło zapisu</source>
+        <translation>Write community</translation>
+    </message>
+    <message>
+        <source>Wersja SNMP</source>
+        <translation>SNMP version</translation>
+    </message>
+    <message>
+        <source>Numer seryjny 
+sterownika</source>
+        <translation>Controller 
+serial number</translation>
+    </message>
+    <message>
+        <source>Uwaga</source>
+        <translation>Attention</translation>
+    </message>
+    <message>
+        <source>Wprowadzono nieprawidłowy adres IP</source>
+        <translation>The IP address that was entered is not valid</translation>
+    </message>
+</context>
+<context>
     <name>UpsEventsWindow</name>
     <message>
         <source>Tryb pracy - Inicjalizacja</source>
@@ -1750,6 +1830,14 @@ Do you want to add a new UPS now?
     <message>
         <source>Nie pokazuj ponownie tego komunikatu</source>
         <translation>Do not show this message again</translation>
+    </message>
+    <message>
+        <source>Nowy UPS</source>
+        <translation>New UPS</translation>
+    </message>
+    <message>
+        <source>Edycja UPS</source>
+        <translation>Edit UPS</translation>
     </message>
 </context>
 </TS>

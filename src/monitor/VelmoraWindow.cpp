@@ -156,6 +156,8 @@ void VelmoraWindow::connectController()
 
 void VelmoraWindow::connectTree()
 {
+    connect(upsTree, &UpsTreeWidget::editActionTriggered, this, &VelmoraWindow::editActionHandler);
+    connect(upsTree, &UpsTreeWidget::addUpsActionTriggered, this, &VelmoraWindow::addUpsActionHandler);
     connect(upsTree, &UpsTreeWidget::deleteActionTriggered, this, &VelmoraWindow::deleteActionHandler);
     connect(upsTree, &QTreeWidget::currentItemChanged, this,
             &VelmoraWindow::upsTreeCurrentIndexChangedHandler);

@@ -89,7 +89,9 @@ public slots:
     void connectWithService();
     void connectingInProgress();
 
+    void editActionHandler(int row);
     void deleteActionHandler(int row);
+    void addUpsActionHandler();
     void upsTreeCurrentIndexChangedHandler();
     void upsTreeExpandedHandler();
     void clockUpdate();

@@ -173,6 +173,14 @@ void VelmoraWindow::slotEmptyUpsList()
                        "Czy chcesz dodać nowy UPS teraz?\n");
     question.defaultButton = QMessageBox::Yes;
     question.checkBoxText = tr("Nie pokazuj ponownie tego komunikatu");
-    if (Velmora::Prompts::current().ask(this, question).checkBoxChecked)
+    const Velmora::Answer answer = Velmora::Prompts::current().ask(this, question);
+    if (answer.checkBoxChecked)
         ControlPanelConfiguration().setDontShowAddUpsPrompt(true);
+    if (answer.button != QMessageBox::Yes)
+        return;
+    if (!administratorMode)
+        logIn();
+    // Still watching: the login was cancelled or failed.
+    if (administratorMode)
+        addUpsActionHandler();
 }

@@ -6,11 +6,14 @@
 #include "admin/LogiInWindow.h"
 #include "admin/PasswordChangeWindow.h"
 #include "app/ControlPanelConfiguration.h"
+#include "devices/AddUpsWindow.h"
 #include "devices/core/ModelRules.h"
 #include "link/UpsSocketController.h"
 #include "monitor/ExtendInformationWindow.h"
-#include "monitor/ModalDialog.h"
 #include "monitor/UpsEventsWindow.h"
+#include "monitor/UpsTreeElement.h"
+#include "monitor/UpsTreeWidget.h"
+#include "monitor/widgets/ModalDialog.h"
 
 using Velmora::runModal;
 using Velmora::UpsSocketController;
@@ -48,6 +51,40 @@ void VelmoraWindow::connectWithService()
     dialog->setSocketController(socketController.get());
     runModal(connectWithServiceWindow, dialog,
              [this](ConnectWithServiceWindow& /*accepted*/) { connectingInProgress(); });
+}
+
+void VelmoraWindow::addUpsActionHandler()
+{
+    auto* dialog = new AddUpsWindow(&m_serialPorts, this);
+    dialog->setWindowTitle(tr("Nowy UPS"));
+    dialog->setSocketController(socketController.get());
+    dialog->setAllUpsList(getAllUps());
+    runModal(dialog);
+}
+
+void VelmoraWindow::editActionHandler(int /*row*/)
+{
+    const UpsTreeElement* element = upsTree->currentElement();
+    if (!element || Velmora::isVirtualDevice(element->ups.model_name))
+        return;
+    // A copy: the tree may be built anew while the dialog runs.
+    const Velmora::Utils::Ups ups = element->ups;
+    auto* dialog = new AddUpsWindow(&m_serialPorts, this);
+    dialog->setWindowTitle(tr("Edycja UPS"));
+    dialog->setSocketController(socketController.get());
+    dialog->setUpsEdited(true);
+    dialog->setUpsName(ups.user_defined_name);
+    dialog->setModel(ups.model_name);
+    dialog->setId(ups.id);
+    dialog->setCommunication(ups.communication);
+    dialog->setComPort(ups.com_port);
+    dialog->setIpAddress(ups.ip);
+    dialog->setWriteCommunity(ups.write);
+    dialog->setReadCommunity(ups.read);
+    dialog->setSnmpVerion(ups.snmp_ver);
+    dialog->setSerialNumber(ups.serial_no);
+    dialog->setAllUpsList(getAllUps());
+    runModal(dialog);
 }
 
 void VelmoraWindow::extendInformationButtonClickHandler()

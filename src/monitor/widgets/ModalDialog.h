@@ -33,4 +33,12 @@ void runModal(QPointer<Dialog>& member, Dialog* dialog)
     runModal(member, dialog, [](Dialog&) {});
 }
 
+/// For a dialog that nothing is handed on to while it runs.
+template <typename Dialog>
+void runModal(Dialog* dialog)
+{
+    QPointer<Dialog> member;
+    runModal(member, dialog);
+}
+
 } // namespace Velmora
