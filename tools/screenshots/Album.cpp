@@ -24,15 +24,15 @@ bool Album::add(const QString& name, const QString& caption, const std::function
     return false;
 }
 
-bool Album::addDialog(const char* opener, const QString& name, const QString& caption)
+bool Album::addDialog(const std::function<void()>& open, const QString& name, const QString& caption)
 {
     bool saved = false;
-    const bool opened = m_panel.withDialog(opener, [&](QDialog* dialog) {
+    const bool opened = m_panel.withDialog(open, [&](QDialog* dialog) {
         saved = save(name, caption, dialog);
         dialog->reject();
     });
     if (!opened)
-        std::fprintf(stderr, "velmora-screenshots: %s opened no dialog\n", opener);
+        std::fprintf(stderr, "velmora-screenshots: no dialog for %s\n", qUtf8Printable(caption));
     return saved;
 }
 

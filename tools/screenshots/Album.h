@@ -19,8 +19,9 @@ public:
     [[nodiscard]] bool add(const QString& name, const QString& caption,
                            const std::function<bool()>& condition, int milliseconds);
 
-    /// Saves a picture of the dialog that an action or button of the main window opens, and closes it.
-    [[nodiscard]] bool addDialog(const char* opener, const QString& name, const QString& caption);
+    /// Saves a picture of the dialog that `open` brings up, and closes it.
+    [[nodiscard]] bool addDialog(const std::function<void()>& open, const QString& name,
+                                 const QString& caption);
 
 private:
     [[nodiscard]] bool save(const QString& name, const QString& caption, const QWidget* window);

@@ -92,11 +92,30 @@ QString PanelDriver::describe() const
         .arg(element->text(0), element->modelFullName, fieldText("workModeEdit"), load);
 }
 
-bool PanelDriver::withDialog(const char* opener, const std::function<void(QDialog*)>& use) const
+void PanelDriver::trigger(const char* name) const
+{
+    if (auto* action = m_window->findChild<QAction*>(QLatin1String(name)))
+        action->trigger();
+    else
+        m_window->findChild<QAbstractButton*>(QLatin1String(name))->click();
+}
+
+void PanelDriver::requestNewDevice() const
+{
+    emit m_window->findChild<UpsTreeWidget*>()->addUpsActionTriggered();
+}
+
+void PanelDriver::requestChange() const
+{
+    m_window->findChild<UpsTreeWidget*>()->editActionTriggeredSlot();
+}
+
+bool PanelDriver::withDialog(const std::function<void()>& open,
+                             const std::function<void(QDialog*)>& use) const
 {
     constexpr int lookInterval = 50;
     bool used = false;
-    // The action returns only when its dialog is closed, so the dialog is used from a timer that runs
+    // Opening returns only when the dialog is closed, so the dialog is used from a timer that runs
     // meanwhile.
     QTimer looks;
     QObject::connect(&looks, &QTimer::timeout, m_window, [&] {
@@ -107,10 +126,7 @@ bool PanelDriver::withDialog(const char* opener, const std::function<void(QDialo
         use(dialog);
     });
     looks.start(lookInterval);
-    if (auto* action = m_window->findChild<QAction*>(QLatin1String(opener)))
-        action->trigger();
-    else
-        m_window->findChild<QAbstractButton*>(QLatin1String(opener))->click();
+    open();
     return used;
 }
 

@@ -30,9 +30,16 @@ public:
     /// The selected device's row, model, work mode and load, as text.
     [[nodiscard]] QString describe() const;
 
-    /// Triggers the action or button of this object name and calls `use` with the dialog that it opens.
-    /// Returns when the dialog is closed, which `use` sees to. False if no dialog came up.
-    [[nodiscard]] bool withDialog(const char* opener, const std::function<void(QDialog*)>& use) const;
+    /// Triggers the action or button of this object name.
+    void trigger(const char* name) const;
+    /// Asks for a new device, or for a change of the selected one, as the tree's context menu does.
+    void requestNewDevice() const;
+    void requestChange() const;
+
+    /// Calls `open`, and `use` with the dialog that comes up. Returns when the dialog is closed, which `use`
+    /// sees to. False if no dialog came up.
+    [[nodiscard]] bool withDialog(const std::function<void()>& open,
+                                  const std::function<void(QDialog*)>& use) const;
 
     /// Writes what the display shows of a window, the main window unless another is given.
     [[nodiscard]] bool save(const QString& path, const QWidget* window = nullptr) const;

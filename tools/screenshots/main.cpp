@@ -14,8 +14,10 @@
 #include <QLineEdit>
 #include <QTranslator>
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
+#include <vector>
 
 // Opens the panel on a service, waits until what it is to show really stands on the display, and saves
 // pictures of it. With a service of its own it also shows how the panel takes its loss and its return.
@@ -64,27 +66,43 @@ bool takeDevicePictures(PanelDriver& panel, Album& album)
     return true;
 }
 
-// The service is one of the program's own, with the password that it is installed with.
-bool takeDialogPictures(PanelDriver& panel, Album& album)
+struct DialogPicture
 {
-    if (!showDevice(panel, "Tarvex33"))
-        return false;
-    const bool watching =
-        album.addDialog("exInfoButton", QStringLiteral("extended-information"),
-                        QStringLiteral("every measurement")) &&
-        album.addDialog("upsEventsButton", QStringLiteral("events"), QStringLiteral("the event history")) &&
-        album.addDialog("actionConnectWithService", QStringLiteral("service-address"),
-                        QStringLiteral("the service's address")) &&
-        album.addDialog("actionActAsAdministrator", QStringLiteral("login"), QStringLiteral("the login"));
-    return watching &&
-           panel.withDialog("actionActAsAdministrator",
+    std::function<void()> open;
+    const char* name;
+    const char* caption;
+};
+
+// The service is one of the program's own, with the password that it is installed with.
+bool logIn(const PanelDriver& panel)
+{
+    return panel.withDialog([&panel] { panel.trigger("actionActAsAdministrator"); },
                             [](QDialog* dialog) {
                                 dialog->findChild<QLineEdit*>()->setText(
                                     Velmora::defaultAdministratorPassword());
                                 dialog->accept();
-                            }) &&
-           album.addDialog("actionChangePassword", QStringLiteral("password"),
-                           QStringLiteral("a new administrator password"));
+                            });
+}
+
+bool takeDialogPictures(PanelDriver& panel, Album& album)
+{
+    const auto triggering = [&panel](const char* name) { return [&panel, name] { panel.trigger(name); }; };
+    const std::vector<DialogPicture> pictures{
+        {triggering("exInfoButton"), "extended-information", "every measurement"},
+        {triggering("upsEventsButton"), "events", "the event history"},
+        {triggering("actionConnectWithService"), "service-address", "the service's address"},
+        {triggering("actionActAsAdministrator"), "login", "the login"},
+        {triggering("actionChangePassword"), "password", "a new administrator password"},
+        {[&panel] { panel.requestNewDevice(); }, "new-device", "a new device"},
+        {[&panel] { panel.requestChange(); }, "changed-device", "a device that is changed"},
+    };
+    if (!showDevice(panel, "Tarvex33"))
+        return false;
+    return std::all_of(pictures.begin(), pictures.end(), [&](const DialogPicture& picture) {
+        const bool needsAdministrator = qstrcmp(picture.name, "password") == 0;
+        return (!needsAdministrator || logIn(panel)) &&
+               album.addDialog(picture.open, QLatin1String(picture.name), QLatin1String(picture.caption));
+    });
 }
 
 bool takeLossPictures(PanelDriver& panel, Album& album, ServiceProcess& service)
