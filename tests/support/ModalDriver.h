@@ -32,7 +32,7 @@ template <typename Dialog, typename Open, typename Act>
         const QPointer<QDialog> guard(modal);
         if (dialog)
             act(*dialog);
-        if (guard)
+        if (guard && guard->isVisible())
             guard->reject();
     });
     look.start(1);

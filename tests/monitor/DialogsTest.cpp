@@ -1,0 +1,230 @@
+// SPDX-FileCopyrightText: 2026 The Velmora developers
+// SPDX-License-Identifier: MIT
+#include "admin/ConnectWithServiceWindow.h"
+#include "admin/LogiInWindow.h"
+#include "admin/PasswordChangeWindow.h"
+#include "app/Startup.h"
+#include "link/UpsSocketController.h"
+#include "monitor/ExtendInformationWindow.h"
+#include "monitor/UpsEventsWindow.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRegularExpression>
+#include <QScopeGuard>
+#include <QTest>
+#include <QTranslator>
+
+#include <functional>
+
+using Velmora::UpsSocketController;
+
+namespace {
+
+using Build = std::function<std::unique_ptr<QDialog>(UpsSocketController*)>;
+
+struct DialogRow
+{
+    const char* name;
+    Build build; ///< with everything in it that it can show
+};
+
+std::unique_ptr<QDialog> extendedInformation(bool genset)
+{
+    QMap<QString, QString> report;
+    for (const Velmora::ExInformation& row : Velmora::extendedInformationCatalogue(genset))
+        report.insert(row.key, QStringLiteral("1"));
+    auto dialog = std::make_unique<ExtendInformationWindow>(genset, nullptr);
+    dialog->updateControls(report);
+    return dialog;
+}
+
+std::unique_ptr<QDialog> events(const char* history)
+{
+    auto dialog = std::make_unique<UpsEventsWindow>(nullptr);
+    dialog->updateControls(QLatin1String(history));
+    return dialog;
+}
+
+std::unique_ptr<QDialog> serviceAddress(UpsSocketController* link)
+{
+    auto dialog = std::make_unique<ConnectWithServiceWindow>(nullptr);
+    dialog->setSocketController(link);
+    return dialog;
+}
+
+/// Every dialog of the panel has its row here.
+const DialogRow dialogRows[] = {
+    {"login", [](auto* link) { return std::make_unique<LogiInWindow>(link, nullptr); }},
+    {"password change",
+     [](auto* link) {
+         return std::make_unique<PasswordChangeWindow>(QStringLiteral("127.0.0.1"), link, nullptr);
+     }},
+    {"service address", serviceAddress},
+    {"extended information of a UPS", [](auto* /*link*/) { return extendedInformation(false); }},
+    {"extended information of a genset", [](auto* /*link*/) { return extendedInformation(true); }},
+    {"events before the first history", [](auto* /*link*/) { return events(""); }},
+    {"events", [](auto* /*link*/) { return events("2;3;4;5;6;7|18;3;4;5;6;7"); }},
+};
+
+/// Texts that read the same in both languages.
+const QStringList sameInBoth{QStringLiteral("OK"), QStringLiteral("D+")};
+
+QStringList& warnings()
+{
+    static QStringList lines;
+    return lines;
+}
+
+void keepWarnings(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message)
+{
+    // The platform of the tests cannot limit the size of windows; displays can.
+    if (type != QtDebugMsg && !message.contains(QLatin1String("propagateSizeHints")))
+        warnings().append(message);
+}
+
+QStringList itemTexts(const QWidget* widget)
+{
+    QStringList texts;
+    const auto* view = qobject_cast<const QAbstractItemView*>(widget);
+    const auto* box = qobject_cast<const QComboBox*>(widget);
+    const QAbstractItemModel* model = view ? view->model() : box ? box->model() : nullptr;
+    if (!model)
+        return texts;
+    for (int column = 0; column < model->columnCount(); ++column) {
+        texts.append(model->headerData(column, Qt::Horizontal).toString());
+        for (int row = 0; row < model->rowCount(); ++row)
+            texts.append(model->index(row, column).data().toString());
+    }
+    return texts;
+}
+
+/// What a user reads or has read out, in the order of the widgets, without what is not a word.
+QStringList visibleTexts(const QDialog& dialog)
+{
+    QStringList texts{dialog.windowTitle()};
+    for (const QWidget* widget : dialog.findChildren<QWidget*>()) {
+        texts.append(itemTexts(widget));
+        texts << widget->toolTip() << widget->accessibleName() << widget->accessibleDescription();
+        if (qobject_cast<const QLabel*>(widget) || qobject_cast<const QAbstractButton*>(widget))
+            texts.append(widget->property("text").toString());
+        if (const auto* box = qobject_cast<const QGroupBox*>(widget))
+            texts.append(box->title());
+        if (const auto* field = qobject_cast<const QLineEdit*>(widget))
+            texts.append(field->placeholderText());
+    }
+    static const QRegularExpression letters(QStringLiteral("[[:alpha:]]{2}"));
+    return texts.filter(letters);
+}
+
+bool isField(const QWidget* widget)
+{
+    return qobject_cast<const QLineEdit*>(widget) || qobject_cast<const QComboBox*>(widget) ||
+           qobject_cast<const QAbstractSpinBox*>(widget) || qobject_cast<const QAbstractItemView*>(widget);
+}
+
+/// The field to the right of a label, on its line and with nothing between them.
+const QWidget* fieldBeside(const QDialog& dialog, const QLabel* label)
+{
+    const auto placed = [&dialog](const QWidget* widget) {
+        return QRect(widget->mapTo(&dialog, QPoint()), widget->size());
+    };
+    const QRect place = placed(label);
+    const QWidget* nearest = nullptr;
+    for (const QWidget* widget : dialog.findChildren<QWidget*>()) {
+        const QRect other = placed(widget);
+        const bool beside = widget->isVisible() && other.left() > place.right() &&
+                            other.top() <= place.center().y() && other.bottom() >= place.center().y();
+        if (beside && (isField(widget) || qobject_cast<const QLabel*>(widget)) &&
+            (!nearest || other.left() < placed(nearest).left()))
+            nearest = widget;
+    }
+    return nearest && isField(nearest) ? nearest : nullptr;
+}
+
+QStringList unnamedControls(const QDialog& dialog)
+{
+    QStringList found;
+    for (const QLabel* label : dialog.findChildren<QLabel*>()) {
+        const QWidget* field = label->isVisible() ? fieldBeside(dialog, label) : nullptr;
+        const bool named = label->buddy() || (field && !field->accessibleName().isEmpty());
+        if (field && !named)
+            found.append(QLatin1String("no buddy: ") + label->text());
+    }
+    for (const QAbstractButton* button : dialog.findChildren<QAbstractButton*>()) {
+        if (button->isVisible() && button->text().isEmpty() && button->accessibleName().isEmpty())
+            found.append(QLatin1String("no name: ") + button->objectName());
+    }
+    return found;
+}
+
+} // namespace
+
+/// What holds for every dialog, in both languages.
+class DialogsTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void dialogsAreSound_data();
+    void dialogsAreSound();
+};
+
+void DialogsTest::initTestCase()
+{
+    Q_INIT_RESOURCE(velmora);
+    Q_INIT_RESOURCE(translation);
+    Velmora::Startup::setPanelStyleSheet();
+}
+
+void DialogsTest::dialogsAreSound_data()
+{
+    QTest::addColumn<int>("row");
+    for (int row = 0; row < int(std::size(dialogRows)); ++row)
+        QTest::newRow(dialogRows[row].name) << row;
+}
+
+void DialogsTest::dialogsAreSound()
+{
+    QFETCH(int, row);
+    UpsSocketController link;
+    QStringList texts[2];
+    const QtMessageHandler usual = qInstallMessageHandler(keepWarnings);
+    const auto restore = qScopeGuard([usual] { qInstallMessageHandler(usual); });
+    warnings().clear();
+    for (const bool english : {false, true}) {
+        QTranslator qtTexts;
+        QTranslator panelTexts;
+        Velmora::Startup::installTranslators(english ? QStringLiteral("english") : QStringLiteral("polish"),
+                                             qtTexts, panelTexts);
+        const std::unique_ptr<QDialog> dialog = dialogRows[row].build(&link);
+        dialog->show();
+        QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
+        QCOMPARE(unnamedControls(*dialog), QStringList());
+        texts[english ? 1 : 0] = visibleTexts(*dialog);
+        QTest::keyClick(dialog.get(), Qt::Key_Escape);
+        QVERIFY(dialog->isHidden());
+        QCOMPARE(dialog->result(), int(QDialog::Rejected));
+    }
+    QCOMPARE(warnings(), QStringList());
+
+    static const QRegularExpression polishLetter(QStringLiteral("[ąćęłńóśźżĄĆĘŁŃÓŚŹŻ]"));
+    QVERIFY(texts[0].size() >= 2);
+    QCOMPARE(texts[1].size(), texts[0].size());
+    QCOMPARE(texts[1].filter(polishLetter), QStringList());
+    QStringList untranslated;
+    for (int i = 0; i < texts[0].size(); ++i) {
+        if (texts[0].at(i) == texts[1].at(i) && !sameInBoth.contains(texts[0].at(i)))
+            untranslated.append(texts[0].at(i));
+    }
+    QCOMPARE(untranslated, QStringList());
+}
+
+QTEST_MAIN(DialogsTest)
+#include "DialogsTest.moc"

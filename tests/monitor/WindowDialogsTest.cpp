@@ -1,0 +1,287 @@
+// SPDX-FileCopyrightText: 2026 The Velmora developers
+// SPDX-License-Identifier: MIT
+#include "admin/ConnectWithServiceWindow.h"
+#include "admin/LogiInWindow.h"
+#include "admin/PasswordChangeWindow.h"
+#include "link/TextHelpers.h"
+#include "monitor/ExtendInformationWindow.h"
+#include "monitor/UpsEventsWindow.h"
+#include "monitor/WindowFixture.h"
+#include "support/ModalDriver.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QTest>
+
+using namespace Velmora::Tests;
+using Velmora::Utils::makeMd5;
+
+namespace {
+
+const QString password = QStringLiteral("Opiekunsystem");
+const QString connected = QStringLiteral("Połączono z usługą:");
+const QString connecting = QStringLiteral("Trwa łączenie z usługą:");
+const QString lost = QStringLiteral("Błąd połączenia z usługą:");
+
+void pressOk(const QDialog& dialog)
+{
+    dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+}
+
+QByteArray digestReply()
+{
+    return "<get_password>" + makeMd5(password).toUtf8() + "</get_password>";
+}
+
+QByteArray report(const QByteArray& inputVoltage, const QByteArray& events = "2;3;4;5;6;7|")
+{
+    return stateReport("<battery_capacity>80</battery_capacity><input_voltage>" + inputVoltage +
+                       "</input_voltage><events>" + events + "</events>");
+}
+
+QString firstValue(const QDialog& dialog)
+{
+    return dialog.findChild<QLineEdit*>()->text();
+}
+
+int eventCount(const QDialog& dialog)
+{
+    return dialog.findChild<QListView*>()->model()->rowCount();
+}
+
+} // namespace
+
+/// The dialogs as the window opens, wires and outlives them.
+class WindowDialogsTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void loginOpensAdministratorMode();
+    void changedPasswordIsCarriedFromThenOn();
+    void dialogsOutliveTheLink_data();
+    void dialogsOutliveTheLink();
+    void extendedInformationFollowsTheReports();
+    void eventsFollowTheReports();
+    void newAddressShowsTheWay();
+
+private:
+    void open(const char* control) const;
+    [[nodiscard]] bool isAdministrator() const;
+    /// The digest that the next request carries.
+    [[nodiscard]] QByteArray carriedRequest();
+
+    const QByteArray m_devices = deviceList({device(1, "Tarvex33_SNMP", "A"), device(2, "Borel_SNMP", "B")});
+    std::unique_ptr<WindowFixture> panel;
+};
+
+void WindowDialogsTest::init()
+{
+    panel = std::make_unique<WindowFixture>();
+    QVERIFY(panel->open(m_devices));
+    QVERIFY(panel->send(report("230")));
+    QCOMPARE(panel->shown("serviceTitle"), connected);
+}
+
+void WindowDialogsTest::cleanup()
+{
+    panel.reset();
+}
+
+void WindowDialogsTest::open(const char* control) const
+{
+    auto* object = panel->find(control);
+    QVERIFY2(object->property("enabled").toBool(), control);
+    if (auto* action = qobject_cast<QAction*>(object))
+        action->trigger();
+    else
+        QTest::mouseClick(qobject_cast<QPushButton*>(object), Qt::LeftButton);
+}
+
+bool WindowDialogsTest::isAdministrator() const
+{
+    return panel->find<QAction>("actionLogout")->isEnabled();
+}
+
+QByteArray WindowDialogsTest::carriedRequest()
+{
+    return panel->settle() ? panel->service.requests().constLast().xml : QByteArray();
+}
+
+void WindowDialogsTest::loginOpensAdministratorMode()
+{
+    panel->service.replyTo("get_password", digestReply());
+    QVERIFY(driveModal<LogiInWindow>([this] { open("actionActAsAdministrator"); },
+                                     [this](LogiInWindow& dialog) {
+                                         QTest::keyClicks(dialog.focusWidget(), password);
+                                         QTest::keyClick(&dialog, Qt::Key_Return);
+                                         QTRY_VERIFY(isAdministrator());
+                                         QVERIFY(dialog.isHidden());
+                                     }));
+    QCOMPARE(panel->service.requestCount("get_password"), 1);
+    QVERIFY(panel->window->windowTitle().endsWith(QLatin1String(" (Administrator)")));
+    panel->service.clearRequests();
+    panel->tree()->setCurrentItem(panel->row(QStringLiteral("B")));
+    panel->link()->getUpsDeviceData();
+    QVERIFY(panel->settle());
+    QVERIFY(panel->service.requests().size() >= 3);
+    for (const Request& request : panel->service.requests())
+        QVERIFY2(request.xml.contains("<pass>" + makeMd5(password).toUtf8() + "</pass>"),
+                 request.xml.constData());
+
+    panel->find<QAction>("actionLogout")->trigger();
+    QCOMPARE(carriedRequest(), QByteArray("<settle><pass></pass></settle>"));
+}
+
+void WindowDialogsTest::changedPasswordIsCarriedFromThenOn()
+{
+    const QString newPassword = QStringLiteral("inne hasło");
+    panel->window->enableAdministratorButtons();
+    panel->link()->setAdminPass(makeMd5(password));
+    panel->service.replyTo("get_password", digestReply());
+    panel->service.replyTo("change_password", "<admin_password_changed/>");
+    QVERIFY(driveModal<PasswordChangeWindow>(
+        [this] { open("actionChangePassword"); },
+        [&newPassword](PasswordChangeWindow& dialog) {
+            QCOMPARE(dialog.windowTitle(),
+                     QStringLiteral("Zmień hasło dla ") % ScriptedService::testAddress());
+            dialog.findChild<QLineEdit*>(QStringLiteral("oldPasswordEdit"))->setText(password);
+            dialog.findChild<QLineEdit*>(QStringLiteral("newPasswordEdit"))->setText(newPassword);
+            dialog.findChild<QLineEdit*>(QStringLiteral("repeatPasswordEdit"))->setText(newPassword);
+            pressOk(dialog);
+            QTRY_VERIFY(dialog.isHidden());
+        }));
+    QCOMPARE(takeMessages(), QStringList(QStringLiteral("Zmiana hasła|Hasło zostało zmienione")));
+    QVERIFY(carriedRequest().contains(makeMd5(newPassword).toUtf8()));
+    QVERIFY(isAdministrator());
+}
+
+void WindowDialogsTest::dialogsOutliveTheLink_data()
+{
+    QTest::addColumn<QByteArray>("control");
+    QTest::addColumn<QByteArray>("dialogName");
+    QTest::addColumn<bool>("asksTheService");
+    const auto row = [](const char* name, const char* control, const char* dialog, bool asks) {
+        QTest::newRow(name) << QByteArray(control) << QByteArray(dialog) << asks;
+    };
+    row("login", "actionActAsAdministrator", "LogiInWindow", true);
+    row("password change", "actionChangePassword", "PasswordChangeWindow", true);
+    row("service address", "actionConnectWithService", "ConnectWithServiceWindow", false);
+    row("extended information", "actionExtendInformation", "ExtendInformationWindow", false);
+    row("events", "upsEventsButton", "UpsEventsWindow", false);
+}
+
+void WindowDialogsTest::dialogsOutliveTheLink()
+{
+    QFETCH(QByteArray, control);
+    QFETCH(QByteArray, dialogName);
+    QFETCH(bool, asksTheService);
+    if (control != "actionActAsAdministrator")
+        panel->window->enableAdministratorButtons();
+    QPointer<QDialog> opened;
+    const auto interrupt = [&](QDialog& dialog) {
+        opened = &dialog;
+        QCOMPARE(dialog.metaObject()->className(), dialogName.constData());
+        if (asksTheService) {
+            pressOk(dialog);
+            QVERIFY(panel->service.waitForRequest("get_password"));
+        }
+        // The tree is built anew below the dialog, without the device that was selected.
+        QVERIFY(panel->send(deviceList({device(2, "Borel_SNMP", "B")})));
+        QVERIFY(panel->send(stateReport("<fuel_level>70</fuel_level><input_voltage>231</input_voltage>")));
+        QCOMPARE(panel->tree()->allElements().size(), std::size_t(1));
+
+        panel->timer("socketErrorTimer")->setInterval(1);
+        panel->service.stop();
+        QTRY_COMPARE(panel->shown("serviceTitle"), lost);
+        QVERIFY(!isAdministrator());
+        QVERIFY(dialog.isVisible() && dialog.isEnabled());
+        if (asksTheService) {
+            pressOk(dialog);
+            dialog.findChild<QTimer*>(QStringLiteral("noResponseTimer"))->setInterval(1);
+            QCOMPARE(awaitMessages().size(), 1);
+        }
+        QVERIFY(panel->service.start());
+        QTRY_VERIFY(panel->timer("reconnectTimer"));
+        panel->timer("reconnectTimer")->setInterval(20);
+        QTRY_VERIFY(panel->timer("pollTimer"));
+        panel->timer("pollTimer")->stop();
+        QVERIFY(panel->send(report("232")));
+        QCOMPARE(panel->shown("serviceTitle"), connected);
+        QVERIFY(dialog.isVisible() && dialog.isEnabled());
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    };
+    QVERIFY(driveModal<QDialog>([&] { open(control.constData()); }, interrupt));
+    QTRY_VERIFY(!opened);
+    QVERIFY(!panel->window->findChild<QDialog*>());
+
+    // Answers for the dialog that is gone find nobody, and the window goes on.
+    panel->service.sendTogether({digestReply(), "<admin_password_changed/>", report("233")});
+    QVERIFY(panel->settle());
+    QVERIFY(!isAdministrator());
+    QCOMPARE(takeMessages(), QStringList());
+    QCOMPARE(carriedRequest(), QByteArray("<settle><pass></pass></settle>"));
+}
+
+void WindowDialogsTest::extendedInformationFollowsTheReports()
+{
+    const auto look = [this](const auto& act) {
+        return driveModal<ExtendInformationWindow>([this] { open("exInfoButton"); }, act);
+    };
+    QVERIFY(look([this](ExtendInformationWindow& dialog) {
+        QCOMPARE(firstValue(dialog), QStringLiteral("230 V"));
+        QVERIFY(panel->send(report("231")));
+        QCOMPARE(firstValue(dialog), QStringLiteral("231 V"));
+        // A report that failed leaves the values.
+        QVERIFY(panel->send(stateReport("<input_voltage>0</input_voltage>", false)));
+        QCOMPARE(firstValue(dialog), QStringLiteral("231 V"));
+        pressOk(dialog);
+        QVERIFY(dialog.isHidden());
+    }));
+    QVERIFY(panel->send(report("232")));
+    QVERIFY(look([](const ExtendInformationWindow& dialog) {
+        QCOMPARE(firstValue(dialog), QStringLiteral("232 V"));
+    }));
+}
+
+void WindowDialogsTest::eventsFollowTheReports()
+{
+    QVERIFY(driveModal<UpsEventsWindow>([this] { open("upsEventsButton"); },
+                                        [this](UpsEventsWindow& dialog) {
+                                            QCOMPARE(eventCount(dialog), 1);
+                                            QVERIFY(panel->send(report("230", "3;3;4;5;7;0|2;3;4;5;6;7|")));
+                                            QCOMPARE(eventCount(dialog), 2);
+                                            QVERIFY(panel->send(
+                                                stateReport("<battery_capacity>80</battery_capacity>")));
+                                            QCOMPARE(eventCount(dialog), 2);
+                                            pressOk(dialog);
+                                            QVERIFY(dialog.isHidden());
+                                        }));
+}
+
+void WindowDialogsTest::newAddressShowsTheWay()
+{
+    const int connections = panel->service.connectionCount();
+    const auto openAddress = [this] { open("actionConnectWithService"); };
+    QVERIFY(driveModal<ConnectWithServiceWindow>(
+        openAddress, [](ConnectWithServiceWindow& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); }));
+    QCOMPARE(panel->shown("serviceTitle"), connected);
+
+    QVERIFY(driveModal<ConnectWithServiceWindow>(openAddress, [](ConnectWithServiceWindow& dialog) {
+        dialog.findChild<QLineEdit*>()->setText(ScriptedService::testAddress());
+        pressOk(dialog);
+    }));
+    QCOMPARE(panel->shown("serviceTitle"), connecting);
+    QVERIFY(panel->service.waitForConnections(connections + 1));
+    QVERIFY(panel->service.waitForRequest("get_ups_configuration", 2));
+    QVERIFY(panel->send(report("230")));
+    QCOMPARE(panel->shown("serviceTitle"), connected);
+}
+
+QTEST_MAIN(WindowDialogsTest)
+#include "WindowDialogsTest.moc"
