@@ -45,6 +45,49 @@
     </message>
 </context>
 <context>
+    <name>AddVirtualUpsWindow</name>
+    <message>
+        <source>Wirtualny UPS</source>
+        <translation>Virtual UPS</translation>
+    </message>
+    <message>
+        <source>Adres</source>
+        <translation>Address</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Brak urządzeń obsługujących pracę równoległą</source>
+        <translation>There are no devices that support parallel operation</translation>
+    </message>
+    <message>
+        <source>Zajęty; Brak komunikacji</source>
+        <translation>Busy; No communication</translation>
+    </message>
+    <message>
+        <source>Zajęty</source>
+        <translation>Busy</translation>
+    </message>
+    <message>
+        <source>Brak komunikacji</source>
+        <translation>No communication</translation>
+    </message>
+    <message>
+        <source>Dostępny</source>
+        <translation>Available</translation>
+    </message>
+    <message>
+        <source>Dostępny; Brak komunikacji</source>
+        <translation>Available; No communication</translation>
+    </message>
+</context>
+<context>
     <name>ConnectWithServiceWindow</name>
     <message>
         <source>Połącz z usługą</source>
@@ -1838,6 +1881,10 @@ Do you want to add a new UPS now?
     <message>
         <source>Edycja UPS</source>
         <translation>Edit UPS</translation>
+    </message>
+    <message>
+        <source>Edycja wirtualny UPS</source>
+        <translation>Edit virtual UPS</translation>
     </message>
 </context>
 </TS>

@@ -113,6 +113,9 @@ private:
     void connectForm();
     void prepareDeviceMessages();
 
+    void editPhysicalDevice(const Velmora::Utils::Ups& ups);
+    void editVirtualDevice(const UpsTreeElement& element);
+
     void setCurrentDevice(UpsTreeElement* element);
     void setUpsModelText(const QString& text);
     void setUpsModelImage(const QString& modelName);

@@ -7,6 +7,7 @@
 #include "admin/PasswordChangeWindow.h"
 #include "app/ControlPanelConfiguration.h"
 #include "devices/AddUpsWindow.h"
+#include "devices/AddVirtualUpsWindow.h"
 #include "devices/core/ModelRules.h"
 #include "link/UpsSocketController.h"
 #include "monitor/ExtendInformationWindow.h"
@@ -17,6 +18,7 @@
 
 using Velmora::runModal;
 using Velmora::UpsSocketController;
+using Velmora::Utils::Ups;
 
 // The dialogs: made, wired and run.
 
@@ -65,10 +67,16 @@ void VelmoraWindow::addUpsActionHandler()
 void VelmoraWindow::editActionHandler(int /*row*/)
 {
     const UpsTreeElement* element = upsTree->currentElement();
-    if (!element || Velmora::isVirtualDevice(element->ups.model_name))
+    if (!element)
         return;
-    // A copy: the tree may be built anew while the dialog runs.
-    const Velmora::Utils::Ups ups = element->ups;
+    if (Velmora::isVirtualDevice(element->ups.model_name))
+        editVirtualDevice(*element);
+    else
+        editPhysicalDevice(element->ups);
+}
+
+void VelmoraWindow::editPhysicalDevice(const Ups& ups)
+{
     auto* dialog = new AddUpsWindow(&m_serialPorts, this);
     dialog->setWindowTitle(tr("Edycja UPS"));
     dialog->setSocketController(socketController.get());
@@ -84,6 +92,24 @@ void VelmoraWindow::editActionHandler(int /*row*/)
     dialog->setSnmpVerion(ups.snmp_ver);
     dialog->setSerialNumber(ups.serial_no);
     dialog->setAllUpsList(getAllUps());
+    // From here on the tree may be built anew, and what `ups` refers to with it.
+    runModal(dialog);
+}
+
+void VelmoraWindow::editVirtualDevice(const UpsTreeElement& element)
+{
+    QList<Ups> members;
+    for (int i = 0; i < element.childCount(); ++i)
+        members.append(static_cast<UpsTreeElement*>(element.child(i))->ups);
+    auto* dialog = new AddVirtualUpsWindow(this);
+    dialog->setWindowTitle(tr("Edycja wirtualny UPS"));
+    dialog->setSocketController(socketController.get());
+    dialog->setUpsEdited(true);
+    dialog->setId(element.ups.id);
+    dialog->setPhyDevIncludedIntoOneVirtual(members);
+    dialog->setPhyDevIncludedIntoAllVirtuals(getAllUpsAssignedToVirtualDevice());
+    dialog->displayAvailableParallelDevices(getAllUps());
+    // From here on the tree may be built anew, and `element` with it.
     runModal(dialog);
 }
 
