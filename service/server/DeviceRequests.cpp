@@ -54,7 +54,10 @@ void readRegistration(DeviceRegistration& device, const Element& request, const 
     device.writeCommunity = request.childText(QLatin1String("write"));
     device.snmpVersion = request.childText(QLatin1String("snmp_ver"));
     device.serialNumber = request.childText(QLatin1String("serial_no"));
-    device.userDefinedName = request.childText(QLatin1String("user_defined_name")).left(longestName);
+    const QString name = request.childText(QLatin1String("user_defined_name")).left(longestName);
+    // A panel has no field for the name of a virtual device: when it changes the members it sends none.
+    if (!isVirtualDevice(device) || !name.isEmpty())
+        device.userDefinedName = name;
     device.physicalIds.clear();
     for (const Element& child : request.children) {
         const int id = child.id();
