@@ -10,10 +10,8 @@
 #include "support/ModalDriver.h"
 
 #include <QApplication>
-#include <QDialogButtonBox>
 #include <QFile>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListView>
 #include <QProcess>
 #include <QPushButton>
@@ -35,16 +33,6 @@ constexpr char otherSite[] = R"({ "devices": [
     { "id": 7, "model_name": "Tarvex33_SNMP", "user_defined_name": "Hospital", "communication": "snmp",
       "ip": "192.0.2.61", "read": "public", "write": "private", "snmp_ver": "v1" },
     { "id": 8, "model_name": "LumoPro_USB", "user_defined_name": "Pharmacy", "communication": "usb" } ] })";
-
-void pressOk(const QDialog& dialog)
-{
-    dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
-}
-
-void type(const QDialog& dialog, const char* field, const QString& text)
-{
-    dialog.findChild<QLineEdit*>(QLatin1String(field))->setText(text);
-}
 
 bool matches(const QString& text, const char* pattern)
 {
@@ -134,7 +122,7 @@ QStringList AdministrationEndToEndTest::logIn(const QString& password) const
 {
     QStringList said{QStringLiteral("nothing happened")};
     const auto enter = [&](LogiInWindow& dialog) {
-        type(dialog, "passwordEdit", password);
+        typeInto(dialog, "passwordEdit", password);
         pressOk(dialog);
         (void)QTest::qWaitFor([&] {
             said = takeMessages();
@@ -203,9 +191,9 @@ void AdministrationEndToEndTest::changedPasswordHoldsAcrossRestarts()
         QVERIFY(isAdministrator());
         QVERIFY(driveModal<PasswordChangeWindow>([this] { trigger("actionChangePassword"); },
                                                  [](PasswordChangeWindow& dialog) {
-                                                     type(dialog, "oldPasswordEdit", defaultPassword);
-                                                     type(dialog, "newPasswordEdit", newPassword);
-                                                     type(dialog, "repeatPasswordEdit", newPassword);
+                                                     typeInto(dialog, "oldPasswordEdit", defaultPassword);
+                                                     typeInto(dialog, "newPasswordEdit", newPassword);
+                                                     typeInto(dialog, "repeatPasswordEdit", newPassword);
                                                      pressOk(dialog);
                                                      QTRY_VERIFY(dialog.isHidden());
                                                  }));
@@ -246,7 +234,7 @@ void AdministrationEndToEndTest::panelMovesToAnotherService()
 
     QVERIFY(driveModal<ConnectWithServiceWindow>([this] { trigger("actionConnectWithService"); },
                                                  [](ConnectWithServiceWindow& dialog) {
-                                                     type(dialog, "addressEdit", otherAddress);
+                                                     typeInto(dialog, "addressEdit", otherAddress);
                                                      pressOk(dialog);
                                                  }));
     QCOMPARE(panel->shown("serviceTitle"), QStringLiteral("Trwa łączenie z usługą:"));

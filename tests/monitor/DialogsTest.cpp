@@ -12,7 +12,6 @@
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QComboBox>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRegularExpression>
@@ -110,13 +109,10 @@ QStringList visibleTexts(const QDialog& dialog)
     QStringList texts{dialog.windowTitle()};
     for (const QWidget* widget : dialog.findChildren<QWidget*>()) {
         texts.append(itemTexts(widget));
-        texts << widget->toolTip() << widget->accessibleName() << widget->accessibleDescription();
+        for (const char* property : {"toolTip", "accessibleName", "title", "placeholderText"})
+            texts.append(widget->property(property).toString());
         if (qobject_cast<const QLabel*>(widget) || qobject_cast<const QAbstractButton*>(widget))
             texts.append(widget->property("text").toString());
-        if (const auto* box = qobject_cast<const QGroupBox*>(widget))
-            texts.append(box->title());
-        if (const auto* field = qobject_cast<const QLineEdit*>(widget))
-            texts.append(field->placeholderText());
     }
     static const QRegularExpression letters(QStringLiteral("[[:alpha:]]{2}"));
     return texts.filter(letters);

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The Velmora developers
 // SPDX-License-Identifier: MIT
-#include "app/Startup.h"
 #include "monitor/ExtendInformationWindow.h"
 #include "monitor/UpsEventsWindow.h"
 
@@ -11,7 +10,6 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
-#include <QTranslator>
 
 namespace {
 
@@ -75,56 +73,41 @@ private slots:
 void InformationWindowsTest::initTestCase()
 {
     Q_INIT_RESOURCE(velmora);
-    Q_INIT_RESOURCE(translation);
 }
 
 void InformationWindowsTest::gridShowsTheReports_data()
 {
-    QTest::addColumn<QString>("language");
     QTest::addColumn<bool>("genset");
     QTest::addColumn<QStringList>("reports");
     QTest::addColumn<QStringList>("expected");
-    const auto row = [](const char* name, const char* language, bool genset, const char* reports,
-                        const char* expected) {
-        QTest::newRow(name) << QString::fromLatin1(language) << genset
-                            << QString::fromUtf8(reports).split(QLatin1Char('|'))
+    const auto row = [](const char* name, bool genset, const char* reports, const char* expected) {
+        QTest::newRow(name) << genset << QString::fromUtf8(reports).split(QLatin1Char('|'))
                             << QString::fromUtf8(expected).split(QLatin1Char('|'), Qt::SkipEmptyParts);
     };
 
-    row("no key of the catalogue, no cell", "polish", false, "device_status=1,events=x", "");
-    row("the catalogue's order, three to the line, and a blank even without a unit", "polish", false,
+    row("the catalogue's order, three to the line, and a blank even without a unit", false,
         "fuel_level=70,output_load=10/20/30,mac_address=00:00:5E:00:53:01,input_voltage=230.1",
         "0/0 Napięcie wejściowe: 230.1 V.|0/1 Obciążenie: 10/20/30 %.|0/2 Adres MAC: 00:00:5E:00:53:01 .|"
         "1/0 Poziom paliwa: 70 %.");
-    row("the same in English", "english", false, "output_load=10/20/30,temperature=21,input_voltage=230.1",
-        "0/0 Input voltage: 230.1 V.|0/1 Temperature: 21 °C.|0/2 Load: 10/20/30 %.");
-    row("a genset measures the mains", "polish", true,
-        "input_voltage=230,input_frequency=50,output_voltage=231",
+    row("a genset measures the mains", true, "input_voltage=230,input_frequency=50,output_voltage=231",
         "0/0 Napięcie fazowe w sieci elektrycznej: 230 V.|0/1 Częstotliwość w sieci elektrycznej: 50 Hz.|"
         "0/2 Napięcie wyjściowe: 231 V.");
-    row("a genset in English", "english", true, "input_voltage=230,input_frequency=50",
-        "0/0 Mains phase voltage: 230 V.|0/1 Mains frequency: 50 Hz.");
-    row("what only identifies a device is shown too", "polish", false,
+    row("what only identifies a device is shown too", false,
         "ups_serial_number=T33,snmp_sys_name=<b>a</b>,rated_va_per_ups_module=900",
         "0/0 Numer fabryczny UPS: T33 .|0/1 Nazwa urządzenia: <b>a</b> .|"
         "0/2 Znamionowa moc pozorna pojedynczego\nmodułu UPS: 900 VA.");
-    row("behind a vanished key the grid closes up, and the last cell stays", "polish", false,
+    row("behind a vanished key the grid closes up, and the last cell stays", false,
         "input_voltage=230,d_plus=1,fuel_level=70,run_time=5|input_voltage=229,fuel_level=69,run_time=6",
         "0/0 Napięcie wejściowe: 229 V.|0/1 Poziom paliwa: 69 %.|0/2 Całkowity czas pracy: 6 h.|"
         "1/0 Całkowity czas pracy: 5 h.");
-    row("a key that comes back takes the stale cell again", "polish", false,
+    row("a key that comes back takes the stale cell again", false,
         "d_plus=1,run_time=5|run_time=6|d_plus=2,run_time=7", "0/0 D+: 2 V.|0/1 Całkowity czas pracy: 7 h.");
-    row("an empty report leaves all as it was", "polish", false, "d_plus=1|", "0/0 D+: 1 V.");
 }
 
 void InformationWindowsTest::gridShowsTheReports()
 {
-    QFETCH(QString, language);
     QFETCH(bool, genset);
     QFETCH(QStringList, reports);
-    QTranslator qtTexts;
-    QTranslator panelTexts;
-    Velmora::Startup::installTranslators(language, qtTexts, panelTexts);
     ExtendInformationWindow dialog(genset, nullptr);
     for (const QString& text : qAsConst(reports))
         dialog.updateControls(report(text));
@@ -154,40 +137,29 @@ void InformationWindowsTest::refreshKeepsTheCells()
 
 void InformationWindowsTest::listShowsTheHistory_data()
 {
-    QTest::addColumn<QString>("language");
     QTest::addColumn<QStringList>("histories");
     QTest::addColumn<QStringList>("expected");
     const QString start = QStringLiteral("2;3;4;5;6;7");
     const QString unnamed = QStringLiteral("1;12;31;23;59;59");
 
-    QTest::newRow("no history yet") << "polish" << QStringList{QString()}
+    QTest::newRow("no history yet") << QStringList{QString()}
                                     << QStringList{QStringLiteral("Pobieranie zdarzeń...")};
-    QTest::newRow("no history yet, in English")
-        << "english" << QStringList{QString()} << QStringList{QStringLiteral("Fetching events...")};
     QTest::newRow("a history in the service's order")
-        << "polish" << QStringList{QString(), QString(unnamed + QLatin1Char('|') + start + QLatin1Char('|'))}
+        << QStringList{QString(), QString(unnamed + QLatin1Char('|') + start + QLatin1Char('|'))}
         << QStringList{QStringLiteral("12-31 23:59:59 - ----"),
                        QStringLiteral("03-04 05:06:07 - Tryb pracy - Inicjalizacja")};
-    QTest::newRow("a history in English")
-        << "english" << QStringList{start}
-        << QStringList{QStringLiteral("03-04 05:06:07 - Work mode - Initialization")};
     QTest::newRow("a report without a history leaves the last one")
-        << "polish" << QStringList{unnamed, QString()}
-        << QStringList{QStringLiteral("12-31 23:59:59 - ----")};
+        << QStringList{unnamed, QString()} << QStringList{QStringLiteral("12-31 23:59:59 - ----")};
     QTest::newRow("nothing but broken records empties the list")
-        << "polish" << QStringList{unnamed, QStringLiteral("2;3;4;5;6|x")} << QStringList{};
+        << QStringList{unnamed, QStringLiteral("2;3;4;5;6|x")} << QStringList{};
     QTest::newRow("a shorter history replaces a longer one")
-        << "polish" << QStringList{QString(start + QLatin1Char('|') + unnamed), unnamed}
+        << QStringList{QString(start + QLatin1Char('|') + unnamed), unnamed}
         << QStringList{QStringLiteral("12-31 23:59:59 - ----")};
 }
 
 void InformationWindowsTest::listShowsTheHistory()
 {
-    QFETCH(QString, language);
     QFETCH(QStringList, histories);
-    QTranslator qtTexts;
-    QTranslator panelTexts;
-    Velmora::Startup::installTranslators(language, qtTexts, panelTexts);
     UpsEventsWindow dialog(nullptr);
     for (const QString& history : qAsConst(histories))
         dialog.updateControls(history);

@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Velmora developers
 // SPDX-License-Identifier: MIT
-#include "admin/ConnectWithServiceWindow.h"
 #include "admin/LogiInWindow.h"
-#include "admin/PasswordChangeWindow.h"
 #include "link/TextHelpers.h"
 #include "monitor/ExtendInformationWindow.h"
 #include "monitor/UpsEventsWindow.h"
@@ -10,8 +8,6 @@
 #include "support/ModalDriver.h"
 
 #include <QApplication>
-#include <QDialogButtonBox>
-#include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
 #include <QTest>
@@ -23,13 +19,7 @@ namespace {
 
 const QString password = QStringLiteral("Opiekunsystem");
 const QString connected = QStringLiteral("Połączono z usługą:");
-const QString connecting = QStringLiteral("Trwa łączenie z usługą:");
 const QString lost = QStringLiteral("Błąd połączenia z usługą:");
-
-void pressOk(const QDialog& dialog)
-{
-    dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
-}
 
 QByteArray digestReply()
 {
@@ -63,12 +53,10 @@ private slots:
     void init();
     void cleanup();
     void loginOpensAdministratorMode();
-    void changedPasswordIsCarriedFromThenOn();
     void dialogsOutliveTheLink_data();
     void dialogsOutliveTheLink();
     void extendedInformationFollowsTheReports();
     void eventsFollowTheReports();
-    void newAddressShowsTheWay();
 
 private:
     void open(const char* control) const;
@@ -136,29 +124,6 @@ void WindowDialogsTest::loginOpensAdministratorMode()
 
     panel->find<QAction>("actionLogout")->trigger();
     QCOMPARE(carriedRequest(), QByteArray("<settle><pass></pass></settle>"));
-}
-
-void WindowDialogsTest::changedPasswordIsCarriedFromThenOn()
-{
-    const QString newPassword = QStringLiteral("inne hasło");
-    panel->window->enableAdministratorButtons();
-    panel->link()->setAdminPass(makeMd5(password));
-    panel->service.replyTo("get_password", digestReply());
-    panel->service.replyTo("change_password", "<admin_password_changed/>");
-    QVERIFY(driveModal<PasswordChangeWindow>(
-        [this] { open("actionChangePassword"); },
-        [&newPassword](PasswordChangeWindow& dialog) {
-            QCOMPARE(dialog.windowTitle(),
-                     QStringLiteral("Zmień hasło dla ") % ScriptedService::testAddress());
-            dialog.findChild<QLineEdit*>(QStringLiteral("oldPasswordEdit"))->setText(password);
-            dialog.findChild<QLineEdit*>(QStringLiteral("newPasswordEdit"))->setText(newPassword);
-            dialog.findChild<QLineEdit*>(QStringLiteral("repeatPasswordEdit"))->setText(newPassword);
-            pressOk(dialog);
-            QTRY_VERIFY(dialog.isHidden());
-        }));
-    QCOMPARE(takeMessages(), QStringList(QStringLiteral("Zmiana hasła|Hasło zostało zmienione")));
-    QVERIFY(carriedRequest().contains(makeMd5(newPassword).toUtf8()));
-    QVERIFY(isAdministrator());
 }
 
 void WindowDialogsTest::dialogsOutliveTheLink_data()
@@ -262,25 +227,6 @@ void WindowDialogsTest::eventsFollowTheReports()
                                             pressOk(dialog);
                                             QVERIFY(dialog.isHidden());
                                         }));
-}
-
-void WindowDialogsTest::newAddressShowsTheWay()
-{
-    const int connections = panel->service.connectionCount();
-    const auto openAddress = [this] { open("actionConnectWithService"); };
-    QVERIFY(driveModal<ConnectWithServiceWindow>(
-        openAddress, [](ConnectWithServiceWindow& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); }));
-    QCOMPARE(panel->shown("serviceTitle"), connected);
-
-    QVERIFY(driveModal<ConnectWithServiceWindow>(openAddress, [](ConnectWithServiceWindow& dialog) {
-        dialog.findChild<QLineEdit*>()->setText(ScriptedService::testAddress());
-        pressOk(dialog);
-    }));
-    QCOMPARE(panel->shown("serviceTitle"), connecting);
-    QVERIFY(panel->service.waitForConnections(connections + 1));
-    QVERIFY(panel->service.waitForRequest("get_ups_configuration", 2));
-    QVERIFY(panel->send(report("230")));
-    QCOMPARE(panel->shown("serviceTitle"), connected);
 }
 
 QTEST_MAIN(WindowDialogsTest)

@@ -4,8 +4,11 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QDialogButtonBox>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
+#include <QPushButton>
 #include <QStringList>
 #include <QTest>
 #include <QTimer>
@@ -38,6 +41,16 @@ template <typename Dialog, typename Open, typename Act>
     look.start(1);
     open();
     return came;
+}
+
+inline void pressOk(const QDialog& dialog)
+{
+    dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+}
+
+inline void typeInto(const QDialog& dialog, const char* field, const QString& text)
+{
+    dialog.findChild<QLineEdit*>(QLatin1String(field))->setText(text);
 }
 
 /// Closes the message boxes that stand and tells what they said, each as "title|text".
