@@ -201,8 +201,6 @@ void ScriptedService::answer(QTcpSocket* connection, const QByteArray& text)
     reader.readNextStartElement();
     const QByteArray name = reader.name().toUtf8();
     m_requests.append({name, text, now()});
-    if (m_silent)
-        return;
     const auto documents = m_replies.value(name);
     for (const QByteArray& document : documents)
         write(connection, frame(document));

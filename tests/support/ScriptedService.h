@@ -51,8 +51,6 @@ public:
     /// What each request called `name` is answered with from now on; an empty list takes the answer back.
     void replyTo(const QByteArray& name, const QByteArray& document);
     void replyTo(const QByteArray& name, const QVector<QByteArray>& documents);
-    /// A silent service takes connections and requests and answers nothing.
-    void setSilent(bool silent) { m_silent = silent; }
     /// Each of the next `count` connections is reset as soon as it is accepted.
     void resetNextConnections(int count) { m_resetsLeft = count; }
     /// Leaves connections in the queue of the port, where they stand for their clients, until
@@ -104,7 +102,6 @@ private:
     QElapsedTimer m_clock;
     int m_connectionCount = 0;
     int m_resetsLeft = 0;
-    bool m_silent = false;
 };
 
 } // namespace Velmora::Tests
