@@ -43,7 +43,6 @@ class ModelCatalogueTest final : public QObject
     Q_OBJECT
 
 private slots:
-    void configNamesAreUnique();
     void namesFollowTheInstalledLanguage();
     void names_data();
     void names();
@@ -51,15 +50,6 @@ private slots:
     void families_data();
     void families();
 };
-
-void ModelCatalogueTest::configNamesAreUnique()
-{
-    QSet<QString> configNames;
-    const QList<Model> models = getAllSuportedModelList();
-    for (const Model& model : models)
-        configNames.insert(model.configName);
-    QCOMPARE(configNames.size(), models.size());
-}
 
 void ModelCatalogueTest::namesFollowTheInstalledLanguage()
 {

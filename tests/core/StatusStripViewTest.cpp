@@ -29,7 +29,6 @@ private slots:
     void serviceLines();
     void deviceStateUnderAService();
     void powerOff();
-    void timersKeepTheFirstValueOfAnId();
     void announcements_data();
     void announcements();
     void indicators();
@@ -83,33 +82,20 @@ void StatusStripViewTest::powerOff()
     QCOMPARE(powerOffText(0), QString());
 }
 
-void StatusStripViewTest::timersKeepTheFirstValueOfAnId()
-{
-    ShutdownTimersData timers;
-    timers.addTimer({1, 30});
-    timers.addTimer({2, 20});
-    timers.addTimer({1, 5});
-    QCOMPARE(timers.tickTimers(), 19);
-    timers.removeTimer(7);
-    timers.removeTimer(2);
-    QCOMPARE(timers.tickTimers(), 28);
-    timers.removeAllTimers();
-    QCOMPARE(timers.tickTimers(), 0);
-}
-
 void StatusStripViewTest::announcements_data()
 {
     QTest::addColumn<Timers>("announced");
     QTest::addColumn<CountdownOutcome>("outcome");
     QTest::addColumn<int>("nextTick"); // with timers 2 of 50 s and 9 of 90 s already running
-    QTest::newRow("an empty announcement cancels") << Timers{} << CountdownOutcome::Cancel << 49;
-    QTest::newRow("new timers start the clock")
-        << Timers{{1, 30}, {3, 40}} << CountdownOutcome::TickStart << 29;
-    QTest::newRow("a known timer is not shortened") << Timers{{2, 10}} << CountdownOutcome::TickStart << 49;
-    QTest::newRow("a withdrawn timer ends the announcement")
-        << Timers{{1, 70}, {2, -1}, {3, 40}} << CountdownOutcome::Leave << 69;
-    QTest::newRow("zero seconds are a shutdown, not a withdrawal")
-        << Timers{{1, 0}} << CountdownOutcome::TickStart << -1;
+    const auto row = [](const char* sentence, const Timers& announced, CountdownOutcome outcome, int next) {
+        QTest::newRow(sentence) << announced << outcome << next;
+    };
+    row("an empty announcement cancels", {}, CountdownOutcome::Cancel, 49);
+    row("new timers start the clock", {{1, 30}, {3, 40}}, CountdownOutcome::TickStart, 29);
+    row("a known timer is not shortened", {{2, 10}}, CountdownOutcome::TickStart, 49);
+    row("a withdrawn timer ends the announcement", {{1, 70}, {2, -1}, {3, 40}}, CountdownOutcome::Leave, 69);
+    row("a timer unknown is withdrawn in vain", {{7, -1}}, CountdownOutcome::Leave, 49);
+    row("zero seconds are a shutdown, not a withdrawal", {{1, 0}}, CountdownOutcome::TickStart, -1);
 }
 
 void StatusStripViewTest::announcements()

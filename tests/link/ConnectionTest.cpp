@@ -119,6 +119,7 @@ void ConnectionTest::dropsRequestsWithoutAConnection()
     m_link->getApplicationConfiguration();
     QVERIFY(m_service->waitForRequest(configurationPoll));
     QCOMPARE(m_service->requestNames(), opening + Names{configurationPoll});
+    QCOMPARE(m_errors->count(), 0);
 }
 
 void ConnectionTest::settlesFor200Milliseconds()
