@@ -2,60 +2,148 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QByteArray>
+#include "link/Cipher.h"
+#include "link/Frame.h"
+#include "link/ServiceEndpoint.h"
+#include "service/ReferenceService.h"
+
+#include <QCryptographicHash>
+#include <QNetworkProxy>
 #include <QTcpSocket>
-#include <QVector>
+#include <QTest>
+#include <QXmlStreamReader>
+
+#include <algorithm>
 
 namespace Velmora::Tests {
 
 /// The password that a fresh service takes for the administrator's.
-extern const char* const administratorPassword;
+constexpr const char* administratorPassword = "Opiekunsystem";
+
+/// The loopback address that is the test's own.
+inline QString ownAddress()
+{
+    return qEnvironmentVariable("VELMORA_TEST_ADDRESS");
+}
+
+/// A service on the test's own address; ends the process if it does not start.
+inline std::unique_ptr<Service::ReferenceService> startService(Service::Options options = {})
+{
+    options.listen = QHostAddress(ownAddress());
+    QString reason;
+    auto service = std::make_unique<Service::ReferenceService>();
+    if (!service->start(options, reason))
+        qFatal("%s", qPrintable(reason));
+    return service;
+}
+
+/// The document as a frame of the wire.
+inline QByteArray frameOf(const QByteArray& document)
+{
+    const QByteArray blob = Velmora::encrypt(document);
+    return Velmora::Utils::prepareMessageSize(blob) + blob;
+}
+
+/// MD5 text of a password.
+inline QByteArray digest(const char* password)
+{
+    return QCryptographicHash::hash(password, QCryptographicHash::Md5).toHex();
+}
+
+/// Texts of all elements of that name in a document.
+inline QVector<QByteArray> texts(const QByteArray& document, const char* element)
+{
+    QVector<QByteArray> found;
+    QXmlStreamReader reader(document);
+    while (!reader.atEnd()) {
+        if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == QLatin1String(element))
+            found.append(reader.readElementText(QXmlStreamReader::IncludeChildElements).toUtf8());
+    }
+    return found;
+}
+
+/// Text of the first of them; null if there is none.
+inline QByteArray text(const QByteArray& document, const char* element)
+{
+    return texts(document, element).value(0);
+}
 
 /// The other end of the link: sends requests as a panel does and keeps what the service says.
 class PanelClient final
 {
 public:
-    /// Connects to the test's own loopback address; isConnected() tells whether it worked.
-    PanelClient();
+    /// Connects to the test's own address; isConnected() tells whether it worked.
+    PanelClient()
+    {
+        m_socket.setProxy(QNetworkProxy::NoProxy);
+        QObject::connect(&m_socket, &QTcpSocket::readyRead, &m_socket, [this] { read(); });
+        m_socket.connectToHost(ownAddress(), Velmora::servicePort);
+        static_cast<void>(QTest::qWaitFor(
+            [this] { return isConnected() || m_socket.state() == QAbstractSocket::UnconnectedState; }));
+    }
 
-    [[nodiscard]] static QString address();
-    /// MD5 text of a password, which is what requests carry.
-    [[nodiscard]] static QByteArray digest(const char* password);
+    /// From now on requests carry this password; none if it is empty.
+    void setPassword(const char* password) { m_pass = *password == '\0' ? QByteArray() : digest(password); }
 
-    void setPassword(const char* password) { m_pass = digest(password); }
-    void forgetPassword() { m_pass.clear(); }
-
-    void send(const QByteArray& name, const QByteArray& body = QByteArray());
-    void sendRaw(const QByteArray& bytes);
+    void send(const QByteArray& name, const QByteArray& body = QByteArray())
+    {
+        sendRaw(frameOf("<" + name + "><pass>" + m_pass + "</pass>" + body + "</" + name + ">"));
+    }
+    void sendRaw(const QByteArray& bytes)
+    {
+        m_socket.write(bytes);
+        m_socket.flush();
+    }
     /// Sends a request and waits for the document that answers it.
     [[nodiscard]] QByteArray ask(const QByteArray& name, const QByteArray& reply,
-                                 const QByteArray& body = QByteArray());
+                                 const QByteArray& body = QByteArray())
+    {
+        send(name, body);
+        return waitFor(reply);
+    }
+    /// The same for a request that is named after its reply.
+    [[nodiscard]] QByteArray get(const QByteArray& reply, const QByteArray& body = QByteArray())
+    {
+        return ask("get_" + reply, reply, body);
+    }
     /// Waits for the next document with this root and takes it; empty if none came in time.
-    [[nodiscard]] QByteArray waitFor(const QByteArray& root);
-    /// Forgets what came with this root so far, such as lists that were pushed.
-    void discard(const QByteArray& root);
+    [[nodiscard]] QByteArray waitFor(const QByteArray& root)
+    {
+        static_cast<void>(QTest::qWaitFor([&] { return has(root) || !isConnected(); }));
+        return has(root) ? m_documents.takeAt(indexOf(root)) : QByteArray();
+    }
     /// True once everything sent so far has been dealt with: the service answers in the order of asking.
-    [[nodiscard]] bool synchronize();
+    [[nodiscard]] bool synchronize() { return !get("service_version").isEmpty(); }
 
     [[nodiscard]] bool isConnected() const { return m_socket.state() == QAbstractSocket::ConnectedState; }
-    [[nodiscard]] QTcpSocket& socket() { return m_socket; }
-    [[nodiscard]] bool has(const QByteArray& root) const;
-    /// The longest frame received so far, with its size field.
-    [[nodiscard]] int longestFrame() const { return m_longestFrame; }
+    [[nodiscard]] bool has(const QByteArray& root) const { return indexOf(root) < m_documents.size(); }
 
 private:
-    void read();
+    void read()
+    {
+        m_buffer += m_socket.readAll();
+        while (m_buffer.size() >= 4) {
+            const int size = Velmora::Utils::getMessegaSize(m_buffer.left(4));
+            if (m_buffer.size() < 4 + size)
+                return;
+            m_documents.append(Velmora::decrypt(m_buffer.mid(4, size)).toUtf8());
+            m_buffer.remove(0, 4 + size);
+        }
+    }
+    [[nodiscard]] int indexOf(const QByteArray& root) const
+    {
+        const auto hasRoot = [&root](const QByteArray& document) {
+            QXmlStreamReader reader(document);
+            return reader.readNextStartElement() && reader.name() == QLatin1String(root);
+        };
+        return static_cast<int>(std::find_if(m_documents.cbegin(), m_documents.cend(), hasRoot) -
+                                m_documents.cbegin());
+    }
 
     QTcpSocket m_socket;
     QByteArray m_pass;
     QByteArray m_buffer;
     QVector<QByteArray> m_documents;
-    int m_longestFrame = 0;
 };
-
-/// Text of the first element of that name in a document; null if there is none.
-[[nodiscard]] QByteArray text(const QByteArray& document, const char* element);
-/// Texts of all elements of that name.
-[[nodiscard]] QVector<QByteArray> texts(const QByteArray& document, const char* element);
 
 } // namespace Velmora::Tests
