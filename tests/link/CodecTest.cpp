@@ -56,9 +56,9 @@ QT_WARNING_POP
 
 // The address sanitizer keeps what was freed for a while, so that a buffer that grows counts twice.
 #ifdef __SANITIZE_ADDRESS__
-constexpr int freedMemoryFactor = 2;
+constexpr qint64 freedMemoryFactor = 2;
 #else
-constexpr int freedMemoryFactor = 1;
+constexpr qint64 freedMemoryFactor = 1;
 #endif
 
 // A genuine blob around a payload that is only said to be compressed.
