@@ -111,7 +111,7 @@ qint64 bareDecode(const Packed& packed)
 
 qint64 panelDecode(const QByteArray& blob)
 {
-    QXmlStreamReader reader = Velmora::readMessageText(blob);
+    QXmlStreamReader reader = Velmora::readMessageBytes(Velmora::decryptToUtf8(blob));
     return walk(reader);
 }
 

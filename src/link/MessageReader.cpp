@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "link/MessageReader.h"
 
-#include "link/Cipher.h"
 #include "link/PlainText.h"
 
 namespace Velmora {
@@ -19,11 +18,6 @@ bool readsAsUtf8(const QByteArray& bytes)
 }
 
 } // namespace
-
-QXmlStreamReader readMessageText(const QByteArray& blob)
-{
-    return readMessageBytes(decryptToUtf8(blob));
-}
 
 QXmlStreamReader readMessageBytes(const QByteArray& bytes)
 {

@@ -6,11 +6,9 @@
 
 namespace Velmora {
 
-/// A reader over the text that decrypt() gives for `blob`, without the detour through QString where the text
-/// allows it. A blob that is not genuine gives a reader of an empty document, which fails on its first token.
-[[nodiscard]] QXmlStreamReader readMessageText(const QByteArray& blob);
-
-/// The same over what decryptToUtf8() gave.
+/// A reader over what decryptToUtf8() gave, which reads what it would of the text that decrypt() gives,
+/// without the detour through QString where the bytes allow it. No bytes give a reader that fails on its
+/// first token.
 [[nodiscard]] QXmlStreamReader readMessageBytes(const QByteArray& bytes);
 
 } // namespace Velmora
