@@ -19,3 +19,11 @@ void UpsTreeElement::setIconPath(const QString& path)
     }
     setIcon(0, icon);
 }
+
+QList<Velmora::Utils::Ups> UpsTreeElement::childUps() const
+{
+    QList<Velmora::Utils::Ups> devices;
+    for (int i = 0; i < childCount(); ++i)
+        devices.append(static_cast<const UpsTreeElement*>(child(i))->ups);
+    return devices;
+}

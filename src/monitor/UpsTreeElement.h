@@ -16,6 +16,9 @@ public:
     /// Loads the picture only if the row shows another one. An empty path leaves the row without icon.
     void setIconPath(const QString& path);
 
+    /// The devices of the rows below this one.
+    [[nodiscard]] QList<Velmora::Utils::Ups> childUps() const;
+
     Velmora::Utils::Ups ups; ///< empty for a row that stands for no known device
     QString modelFullName;   ///< the model's name even where the row shows the user's own name
 

@@ -122,8 +122,7 @@ QList<Ups> VelmoraWindow::getAllUps() const
     QList<Ups> devices;
     for (const UpsTreeElement* element : upsTree->allElements()) {
         devices.append(element->ups);
-        for (int i = 0; i < element->childCount(); ++i)
-            devices.append(static_cast<UpsTreeElement*>(element->child(i))->ups);
+        devices.append(element->childUps());
     }
     return devices;
 }
@@ -132,10 +131,8 @@ QList<Ups> VelmoraWindow::getAllUpsAssignedToVirtualDevice() const
 {
     QList<Ups> devices;
     for (const UpsTreeElement* element : upsTree->allElements()) {
-        if (!Velmora::isVirtualDevice(element->ups.model_name))
-            continue;
-        for (int i = 0; i < element->childCount(); ++i)
-            devices.append(static_cast<UpsTreeElement*>(element->child(i))->ups);
+        if (Velmora::isVirtualDevice(element->ups.model_name))
+            devices.append(element->childUps());
     }
     return devices;
 }

@@ -98,15 +98,12 @@ void VelmoraWindow::editPhysicalDevice(const Ups& ups)
 
 void VelmoraWindow::editVirtualDevice(const UpsTreeElement& element)
 {
-    QList<Ups> members;
-    for (int i = 0; i < element.childCount(); ++i)
-        members.append(static_cast<UpsTreeElement*>(element.child(i))->ups);
     auto* dialog = new AddVirtualUpsWindow(this);
     dialog->setWindowTitle(tr("Edycja wirtualny UPS"));
     dialog->setSocketController(socketController.get());
     dialog->setUpsEdited(true);
     dialog->setId(element.ups.id);
-    dialog->setPhyDevIncludedIntoOneVirtual(members);
+    dialog->setPhyDevIncludedIntoOneVirtual(element.childUps());
     dialog->setPhyDevIncludedIntoAllVirtuals(getAllUpsAssignedToVirtualDevice());
     dialog->displayAvailableParallelDevices(getAllUps());
     // From here on the tree may be built anew, and `element` with it.
