@@ -9,7 +9,6 @@
 #include "monitor/widgets/MessageBox.h"
 #include "ui_LogiInWindow.h"
 
-#include <QTimer>
 #include <QToolTip>
 
 namespace {
@@ -43,14 +42,7 @@ LogiInWindow::~LogiInWindow() = default;
 
 void LogiInWindow::accept()
 {
-    if (!noResponseTimer) {
-        noResponseTimer = new QTimer(this);
-        noResponseTimer->setObjectName(QStringLiteral("noResponseTimer"));
-        noResponseTimer->setSingleShot(true);
-        connect(noResponseTimer, &QTimer::timeout, this, &LogiInWindow::noResponseTimeout);
-    }
-    if (!noResponseTimer->isActive())
-        noResponseTimer->start(answerTime);
+    Velmora::Utils::startNoResponseTimer(noResponseTimer, this, answerTime, &LogiInWindow::noResponseTimeout);
     emit getPassword();
 }
 

@@ -8,8 +8,6 @@
 #include "monitor/widgets/MessageBox.h"
 #include "ui_PasswordChangeWindow.h"
 
-#include <QTimer>
-
 using Velmora::PasswordChangeVerdict;
 using Velmora::Utils::displayMsgBox;
 
@@ -46,13 +44,8 @@ Velmora::PasswordChangeEntry PasswordChangeWindow::entry() const
 
 void PasswordChangeWindow::accept()
 {
-    if (!noResponseTimer) {
-        noResponseTimer = new QTimer(this);
-        noResponseTimer->setObjectName(QStringLiteral("noResponseTimer"));
-        noResponseTimer->setSingleShot(true);
-        connect(noResponseTimer, &QTimer::timeout, this, &PasswordChangeWindow::noResponseTimerTimeout);
-        noResponseTimer->start(answerTime);
-    }
+    Velmora::Utils::startNoResponseTimer(noResponseTimer, this, answerTime,
+                                         &PasswordChangeWindow::noResponseTimerTimeout);
     emit getPassword();
 }
 

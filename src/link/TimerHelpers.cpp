@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "link/TimerHelpers.h"
 
-#include <QTimer>
-
 namespace Velmora::Utils {
 
 void endTimer(QTimer*& timer)
