@@ -88,6 +88,33 @@
     </message>
 </context>
 <context>
+    <name>AdvancedOptionsWindow</name>
+    <message>
+        <source>Błąd ładowania pliku</source>
+        <translation>File loading error</translation>
+    </message>
+    <message>
+        <source>Błąd odczytu pliku</source>
+        <translation>File reading error</translation>
+    </message>
+    <message>
+        <source>Nie można odnaleźć pliku z parametrami </source>
+        <translation>The parameter file cannot be found: </translation>
+    </message>
+    <message>
+        <source>Nie można otworzyć pliku z parametrami </source>
+        <translation>The parameter file cannot be opened: </translation>
+    </message>
+    <message>
+        <source>Plik </source>
+        <translation>The file </translation>
+    </message>
+    <message>
+        <source> zawiera błędy</source>
+        <translation> contains errors</translation>
+    </message>
+</context>
+<context>
     <name>ConnectWithServiceWindow</name>
     <message>
         <source>Połącz z usługą</source>

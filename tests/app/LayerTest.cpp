@@ -22,6 +22,7 @@ constexpr Room rooms[] = {
     {"monitor/widgets/", "monitor/core/"},
     {"admin/core/", "link/"},
     {"admin/", "link/ admin/core/ monitor/widgets/ app/ControlPanelConfiguration.h"},
+    {"policy/core/", "link/ devices/core/"},
     {"devices/", "link/ devices/core/ monitor/widgets/"},
     {"monitor/",
      "link/ devices/ devices/core/ monitor/core/ monitor/widgets/ admin/ app/ControlPanelConfiguration.h"},
