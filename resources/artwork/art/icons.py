@@ -1,7 +1,8 @@
 # SPDX-FileCopyrightText: 2026 The Velmora developers
 # SPDX-License-Identifier: MIT
-"""State icons and button glyphs. Each state has a shape and a sign of its own, so that it can be told
-without its colour; the shapes are laid out on the pixel grid of the smallest size they are used at."""
+"""State icons, button glyphs and pictures of column headers. Each state has a shape and a sign of its own, so
+that it can be told without its colour; the shapes are laid out on the pixel grid of the smallest size they are
+used at."""
 
 import math
 
@@ -144,8 +145,8 @@ def status():
 class Pen:
     """Draws a glyph's strokes and dots in its two colours."""
 
-    def __init__(self, colour, accent):
-        self.g = Drawing(16, 16)
+    def __init__(self, colour, accent, size=16):
+        self.g = Drawing(size, size, (0, 0, 16, 16))
         self.colours = {"base": colour, "accent": accent}
 
     def stroke(self, data, width=1.5, tint="base"):
@@ -246,3 +247,43 @@ def glyphs():
     """Each glyph in dark, and as "_light" for push buttons and chosen menu entries, whose ground is dark."""
     dark = {name: _glyph(name, SLATE, TEAL) for name in _GLYPHS}
     return {**dark, **{f"{name}_light": _glyph(name, WHITE, TEAL_LIGHT) for name in _GLYPHS}}
+
+
+# Column headers of the event list: what happens when the event does.
+
+def _show_message(pen):
+    pen.stroke("M3.5 2 H12.5 Q14 2 14 3.5 V9 Q14 10.5 12.5 10.5 H8 L4.6 13.8 V10.5"
+               " H3.5 Q2 10.5 2 9 V3.5 Q2 2 3.5 2 Z", 1.3)
+    pen.accent("M5 5 H11 M5 7.6 H9", 1.3)
+
+
+def _system_command(pen):
+    pen.stroke("M3 2.5 H13 Q14.3 2.5 14.3 3.8 V12.2 Q14.3 13.5 13 13.5 H3"
+               " Q1.7 13.5 1.7 12.2 V3.8 Q1.7 2.5 3 2.5 Z", 1.3)
+    pen.accent("M4.5 5.6 L7 8 L4.5 10.4 M8.6 10.5 H11.6", 1.4)
+
+
+def _send_mail(pen):
+    pen.stroke("M2.7 3.4 H13.3 Q14.4 3.4 14.4 4.5 V11.5 Q14.4 12.6 13.3 12.6 H2.7 Q1.6 12.6 1.6 11.5 V4.5"
+               " Q1.6 3.4 2.7 3.4 Z", 1.3)
+    pen.accent("M4 6 L8 9.2 L12 6", 1.4)
+
+
+def _output_socket(pen):
+    pen.ring(8, 8, 6.3, 1.3)
+    pen.dot(5.4, 8.4, 1.15)
+    pen.dot(10.6, 8.4, 1.15)
+    pen.stroke("M8 1.9 V4.6", 1.5)
+
+
+_HEADERS = {"showmessage": _show_message, "systemcommand": _system_command, "sendmail": _send_mail,
+            "powerOff": _exit, "outputsocket": _output_socket}
+
+
+def headers():
+    drawings = {}
+    for name, draw in _HEADERS.items():
+        pen = Pen(SLATE, TEAL, 24)
+        draw(pen)
+        drawings[name] = pen.g
+    return drawings
