@@ -15,7 +15,7 @@ ScriptedPrompts& ScriptedPrompts::install()
     return installed;
 }
 
-Answer ScriptedPrompts::ask(QWidget* /*parent*/, const Question& question)
+ExpectedQuestion ScriptedPrompts::take(const Question& question)
 {
     m_asked.append(question);
     const QString title = m_expected.isEmpty() ? QString() : m_expected.constFirst().title;
@@ -23,12 +23,35 @@ Answer ScriptedPrompts::ask(QWidget* /*parent*/, const Question& question)
         const QString failure = QLatin1String("unexpected question \"") + question.title +
                                 QLatin1String("\", foreseen was \"") + title + QLatin1Char('"');
         QTest::qFail(qPrintable(failure), __FILE__, __LINE__);
-        return {};
+        return {{}, QMessageBox::NoButton};
     }
     const ExpectedQuestion expected = m_expected.takeFirst();
     if (expected.whileStanding)
         expected.whileStanding();
+    return expected;
+}
+
+Answer ScriptedPrompts::ask(QWidget* /*parent*/, const Question& question)
+{
+    const ExpectedQuestion expected = take(question);
     return {expected.answer, expected.checked};
+}
+
+std::optional<QString> ScriptedPrompts::choose(QWidget* /*parent*/, const Choice& choice)
+{
+    Question question;
+    question.title = choice.title;
+    question.text = choice.label + QLatin1Char('|') + choice.items.join(QLatin1Char('|'));
+    return take(question).text;
+}
+
+std::optional<QString> ScriptedPrompts::chooseFile(QWidget* /*parent*/, const QString& title,
+                                                   const QString& filter)
+{
+    Question question;
+    question.title = title;
+    question.text = filter;
+    return take(question).text;
 }
 
 void closeStrayWindows()

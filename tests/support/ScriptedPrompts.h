@@ -17,6 +17,7 @@ struct ExpectedQuestion
     QMessageBox::StandardButton answer = QMessageBox::Yes;
     bool checked = false;                ///< state in which the check box is left
     std::function<void()> whileStanding; ///< what goes on behind the question; may be empty
+    std::optional<QString> text = {};    ///< the text or file that is chosen; none cancels
 };
 
 /// Answers the panel's questions in the user's place, in the order foreseen. A question that nobody foresaw
@@ -33,8 +34,13 @@ public:
     [[nodiscard]] const QVector<Question>& asked() const { return m_asked; }
 
     Answer ask(QWidget* parent, const Question& question) override;
+    std::optional<QString> choose(QWidget* parent, const Choice& choice) override;
+    std::optional<QString> chooseFile(QWidget* parent, const QString& title, const QString& filter) override;
 
 private:
+    /// What was foreseen for the next question, after it stood; the failure if it is not this one.
+    ExpectedQuestion take(const Question& question);
+
     QVector<ExpectedQuestion> m_expected;
     QVector<Question> m_asked;
 };

@@ -3,6 +3,8 @@
 #include "monitor/widgets/Prompts.h"
 
 #include <QCheckBox>
+#include <QFileDialog>
+#include <QInputDialog>
 #include <QPointer>
 
 namespace Velmora {
@@ -29,6 +31,27 @@ public:
                             box->checkBox() && box->checkBox()->isChecked()};
         delete box;
         return answer;
+    }
+
+    std::optional<QString> choose(QWidget* parent, const Choice& choice) override
+    {
+        const QPointer<QInputDialog> dialog(new QInputDialog(parent));
+        dialog->setWindowIcon(QIcon(QStringLiteral(":/images/images/appicon_32.png")));
+        dialog->setWindowTitle(choice.title);
+        dialog->setLabelText(choice.label);
+        dialog->setComboBoxItems(choice.items);
+        const bool accepted = dialog->exec() == QDialog::Accepted;
+        if (!dialog)
+            return {};
+        const QString text = dialog->textValue();
+        delete dialog;
+        return accepted ? std::optional(text) : std::nullopt;
+    }
+
+    std::optional<QString> chooseFile(QWidget* parent, const QString& title, const QString& filter) override
+    {
+        const QString path = QFileDialog::getOpenFileName(parent, title, QString(), filter);
+        return path.isEmpty() ? std::nullopt : std::optional(path);
     }
 };
 

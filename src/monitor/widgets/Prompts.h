@@ -3,8 +3,10 @@
 #pragma once
 
 #include <QMessageBox>
+#include <QStringList>
 
 #include <memory>
+#include <optional>
 
 namespace Velmora {
 
@@ -25,6 +27,14 @@ struct Answer
     bool checkBoxChecked = false;
 };
 
+/// Texts of which the user picks one; the first is offered.
+struct Choice
+{
+    QString title;
+    QString label;
+    QStringList items;
+};
+
 /// Every blocking question of the panel goes through here, so that a test can answer in the user's place.
 class Prompts
 {
@@ -36,6 +46,11 @@ public:
     /// Messages of the link are handled while the question stands, so whatever the caller holds may be gone
     /// afterwards. The answer has no button if the program is quitting.
     virtual Answer ask(QWidget* parent, const Question& question) = 0;
+    /// The same holds for these two. No value if the user cancels.
+    virtual std::optional<QString> choose(QWidget* parent, const Choice& choice) = 0;
+    /// Path of a file that exists; `filter` as QFileDialog takes it.
+    virtual std::optional<QString> chooseFile(QWidget* parent, const QString& title,
+                                              const QString& filter) = 0;
 
     /// The prompts in force: real boxes unless a test has put its own in their place.
     [[nodiscard]] static Prompts& current();
