@@ -562,6 +562,41 @@ UPS module</translation>
     </message>
 </context>
 <context>
+    <name>NetworkConfigurationWindow</name>
+    <message>
+        <source>Brak komunikacji</source>
+        <translation>No communication</translation>
+    </message>
+    <message>
+        <source>Praca w trybie sieciowym</source>
+        <translation>Mains operation</translation>
+    </message>
+    <message>
+        <source>Praca w trybie podtrzymania z baterii</source>
+        <translation>Battery operation</translation>
+    </message>
+    <message>
+        <source>Niski poziom energii baterii</source>
+        <translation>Battery low</translation>
+    </message>
+    <message>
+        <source>Zwarcie</source>
+        <translation>Short circuit</translation>
+    </message>
+    <message>
+        <source>Przeciążenie</source>
+        <translation>Overload</translation>
+    </message>
+    <message>
+        <source>Aktywny AVR</source>
+        <translation>AVR active</translation>
+    </message>
+    <message>
+        <source>Tryb błędu</source>
+        <translation>Fault mode</translation>
+    </message>
+</context>
+<context>
     <name>PasswordChangeWindow</name>
     <message>
         <source>Zmiana hasła</source>
