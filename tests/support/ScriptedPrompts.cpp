@@ -23,7 +23,7 @@ ExpectedQuestion ScriptedPrompts::take(const Question& question)
         const QString failure = QLatin1String("unexpected question \"") + question.title +
                                 QLatin1String("\", foreseen was \"") + title + QLatin1Char('"');
         QTest::qFail(qPrintable(failure), __FILE__, __LINE__);
-        return {{}, QMessageBox::NoButton};
+        return {QString(), QMessageBox::NoButton, false, {}};
     }
     const ExpectedQuestion expected = m_expected.takeFirst();
     if (expected.whileStanding)
