@@ -113,6 +113,78 @@
         <source> zawiera błędy</source>
         <translation> contains errors</translation>
     </message>
+    <message>
+        <source>Definiowanie zdarzenia</source>
+        <translation>Event definition</translation>
+    </message>
+    <message>
+        <source>Nazwa zdarzenia</source>
+        <translation>Event name</translation>
+    </message>
+    <message>
+        <source>Warunki początkowe</source>
+        <translation>Start conditions</translation>
+    </message>
+    <message>
+        <source>Zdarzenia</source>
+        <translation>Events</translation>
+    </message>
+    <message>
+        <source>Operatory</source>
+        <translation>Operators</translation>
+    </message>
+    <message>
+        <source>Wartości</source>
+        <translation>Values</translation>
+    </message>
+    <message>
+        <source>Szukaj</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>Warunki końcowe</source>
+        <translation>End conditions</translation>
+    </message>
+    <message>
+        <source>Zapisz jako nowy</source>
+        <translation>Save as new</translation>
+    </message>
+    <message>
+        <source>Zapisz</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Anuluj</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Pole &quot;Nazwa zdarzenia&quot; nie może być puste</source>
+        <translation>The &quot;Event name&quot; field must not be empty</translation>
+    </message>
+    <message>
+        <source>Nazwa zdarzenia zawiera niedozwolone znaki</source>
+        <translation>The event name contains characters that are not allowed</translation>
+    </message>
+    <message>
+        <source>Należy wprowadzić wyrażenie.</source>
+        <translation>Please enter a condition.</translation>
+    </message>
+    <message>
+        <source>Wprowadzone wyrażenie jest nieprawidłowe.</source>
+        <translation>The condition that you entered is not valid.</translation>
+    </message>
+    <message>
+        <source>Uwaga</source>
+        <translation>Attention</translation>
+    </message>
+    <message>
+        <source>Wystąpił błąd podczas przetwarzania wyrażenia.</source>
+        <translation>An error occurred while processing the condition.</translation>
+    </message>
+    <message>
+        <source>Konfiguracja zawiera już zdarzenie </source>
+        <translation>The configuration already contains the event </translation>
+    </message>
 </context>
 <context>
     <name>ConnectWithServiceWindow</name>

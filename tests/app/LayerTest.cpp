@@ -23,6 +23,7 @@ constexpr Room rooms[] = {
     {"admin/core/", "link/"},
     {"admin/", "link/ admin/core/ monitor/widgets/ app/ControlPanelConfiguration.h"},
     {"policy/core/", "link/ devices/core/"},
+    {"policy/", "link/ policy/core/ monitor/widgets/ app/ControlPanelConfiguration.h"},
     {"devices/", "link/ devices/core/ monitor/widgets/"},
     {"monitor/",
      "link/ devices/ devices/core/ monitor/core/ monitor/widgets/ admin/ app/ControlPanelConfiguration.h"},
