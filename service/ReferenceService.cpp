@@ -25,6 +25,8 @@ bool ReferenceService::start(const Options& options, QString& reason)
     const StoredData& data = m_store.data();
     m_backend->setDevices(data.devices, data.settings);
     m_backend->start();
+    // The warm-up is the past: nothing is to be done about it any more.
+    m_policies = std::make_unique<PolicyRunner>(*m_backend, m_store, *m_logs);
     checkDeviceListSize(data.devices);
     return true;
 }

@@ -4,6 +4,7 @@
 
 #include "service/Options.h"
 #include "service/logs/LogRecorder.h"
+#include "service/policy/PolicyRunner.h"
 #include "service/server/DiscoveryResponder.h"
 #include "service/server/Server.h"
 #include "service/simulation/SimulatedBackend.h"
@@ -31,6 +32,7 @@ private:
     Store m_store;
     std::unique_ptr<SimulatedBackend> m_backend;
     std::unique_ptr<LogRecorder> m_logs;
+    std::unique_ptr<PolicyRunner> m_policies;
     std::unique_ptr<Server> m_server;
     DiscoveryResponder m_discovery;
 };

@@ -85,6 +85,11 @@ QString parametersLine(const QString& header, const KeyValues& values, const QDa
     return fields.join(QLatin1Char(';'));
 }
 
+qint64 bookLimit(const DeviceRegistration& device)
+{
+    return qMin(maximumBookBytes, qint64{1024} * qMax(1, device.logFileSize));
+}
+
 QString compensationLine(const KeyValues& values, const QDateTime& time)
 {
     const QString base = values.value(QStringLiteral("compensation_base_factor_L1_L2_L3"));
@@ -121,6 +126,17 @@ void LogRecorder::forget(int device)
     m_lastMessages.remove(device);
 }
 
+void LogRecorder::recordAction(const DeviceRegistration& device, const QDateTime& time, const QString& action)
+{
+    if (!(device.logParams & messagesBit))
+        return;
+    // A comma would begin another code, and a line feed another line.
+    QString entry = action.left(longestAction).simplified();
+    entry.replace(QLatin1Char(','), QLatin1Char(';'));
+    book(device.id, LogKind::Messages)
+        .append(time.toString(QStringLiteral("yyyy-MM-dd,hh:mm:ss,")) % entry, bookLimit(device));
+}
+
 LogBook& LogRecorder::book(int device, LogKind kind)
 {
     return m_books[{device, kind}];
@@ -140,7 +156,7 @@ void LogRecorder::recordDevice(const DeviceRegistration& device, const QDateTime
     const KeyValues values = m_backend.state(device.id).values;
     if (values.isEmpty())
         return;
-    const qint64 limit = qMin(maximumBookBytes, qint64{1024} * qMax(1, device.logFileSize));
+    const qint64 limit = bookLimit(device);
     if (device.logParams & dataBit) {
         LogBook& parameters = book(device.id, LogKind::Parameters);
         if (parameters.header().isEmpty())

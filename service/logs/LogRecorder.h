@@ -30,6 +30,10 @@ public:
 
     [[nodiscard]] QStringList page(int device, LogKind kind, LogAge age, LogPosition& position) const;
     void forget(int device);
+    /// Writes what the policy would do into the messages log of a device that has one. Longer texts are cut.
+    void recordAction(const DeviceRegistration& device, const QDateTime& time, const QString& action);
+
+    static constexpr int longestAction = 300;
 
 private:
     void record(const QDateTime& time);

@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: 2026 The Velmora developers
+// SPDX-License-Identifier: MIT
+#include "service/logs/LogRecorder.h"
+#include "service/policy/DeviceConditions.h"
+#include "service/policy/PolicyRunner.h"
+#include "service/simulation/SimulatedBackend.h"
+#include "service/store/Store.h"
+
+#include <QTest>
+
+using namespace Velmora::Service;
+
+namespace {
+
+QByteArray verdict(const QString& expression, const DeviceConditions& conditions)
+{
+    const std::optional<PostfixExpression> parsed = PostfixExpression::parse(expression);
+    return !parsed ? "bad" : (parsed->isTrue(conditions) ? "true" : "false");
+}
+
+// Mains fails from second 20 to 60.
+constexpr const char* batteryEvent =
+    "<event><event_state>stateBatteryBackup</event_state><expressionIn>stateBatteryBackup,ON,==,</"
+    "expressionIn>"
+    "<expressionOut>stateNormal,ON,==,</expressionOut><event_number>1</event_number>"
+    "<event_parentId>0</event_parentId><actions><message_action><message_text>Lost, "
+    "&lt;all&gt;\n</message_text>"
+    "</message_action><poweroff_action><type>shutdown</type><stanbyUps>1</stanbyUps><delay_time>40</"
+    "delay_time>"
+    "</poweroff_action><output_sock_action><second_sock_conf>1</second_sock_conf>"
+    "<second_sock_ena>0</second_sock_ena><second_sock_delay>39</second_sock_delay></output_sock_action>"
+    "<other_action>1</other_action></actions></event>";
+
+} // namespace
+
+class PolicyTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void conditionFollowsFromTheReport();
+    void randomExpressionIsHarmless();
+    void dueActionsAreLoggedAndLaterOnesCancelled();
+};
+
+void PolicyTest::conditionFollowsFromTheReport()
+{
+    const DeviceState report{true,
+                             true,
+                             {{QStringLiteral("device_status"), QStringLiteral("on_battery")},
+                              {QStringLiteral("messages"), QStringLiteral("2\n5\n77\n131")},
+                              {QStringLiteral("battery_capacity"), QStringLiteral("19")},
+                              {QStringLiteral("autonomy_time"), QStringLiteral("12.5")},
+                              {QStringLiteral("output_load"), QStringLiteral("10/20/30")}}};
+    // Model, expression, outcome.
+    const QVector<QByteArrayList> rows{
+        {"TarvexRT_USB", "stateBatteryBackup,ON,==,", "true"},
+        {"TarvexRT_USB", "stateNormal,OFF,==,stateBatteryBackup,OFF,==,&&,", "false"},
+        {"Tarvex33_USB", "OFF,stateNormal,==,paramBatteryCapacity,20,<,&&,", "true"},
+        {"Tarvex33_USB", "12.5,paramAutonomyTime,<=,", "true"},
+        {"Tarvex33_USB", "paramOutputLoadL3,30,>=,paramOutputLoadL1,30,>=,!=,", "true"},
+        {"Tarvex33_USB", "paramInputFreq,50,!=,", "false"}, // not reported
+        {"CormelRT_SNMP", "messageBatteryLowLevel,ON,==,alarmLowBattery,ON,==,&&,", "true"},
+        {"Cormel_USB", "stateBatteryLowLevel,ON,==,stateOverload,ON,==,&&,", "true"},
+        {"Borel_SNMP", "alarmWrnFuelLevelAN,ON,==,alarmWrnFuelLevelN,OFF,==,&&,", "true"},
+        {"Quenta_USB", " stateNormal , ON,==,,stateBatteryBackup,ON,==,||", "true"},
+        {"Cormel_USB", "stateNormal,ON,==,stateBatteryBackup,ON,||,", "true"}, // without the second "=="
+        {"Cormel_USB", "stateNormal,ON,==,stateAvrActive,ON,||,", "false"},
+        {"", ",", "bad"},
+        {"", "ON,", "bad"},
+        {"", "==,", "bad"},
+        {"", "stateNormal,ON,", "bad"},
+        {"", "stateNormal,==,ON,", "bad"},
+        {"", "stateNormal,5,==,", "bad"},
+        {"", "stateNormal,ON,<,", "bad"},
+        {"", "paramOutputLoad,ON,==,", "bad"},
+        {"", "paramOutputLoad,nan,<,", "bad"},
+        {"", "paramOutputLoad,1,&&,", "bad"},
+        {"", "nonsense,ON,==,", "bad"}};
+    for (const QByteArrayList& row : rows) {
+        const DeviceConditions conditions(QString::fromLatin1(row.at(0)), report);
+        QCOMPARE(row.mid(0, 2) << verdict(QString::fromLatin1(row.at(1)), conditions), row);
+    }
+}
+
+void PolicyTest::randomExpressionIsHarmless()
+{
+    const QByteArrayList items{"==", "<",   "&&", "||", "ON", "7", "stateNormal", "paramOutputLoadL9",
+                               "",   "\xff"};
+    const DeviceConditions silent{QString(), DeviceState()};
+    quint32 random = 1;
+    int readable = 0;
+    for (int i = 0; i < 20000; ++i) {
+        QByteArrayList expression;
+        do {
+            random = random * 1664525U + 1013904223U;
+            expression.append(items.at(static_cast<int>((random >> 16) % 10)));
+        } while ((random >> 8) % 6 != 0);
+        readable += verdict(QString::fromLatin1(expression.join(',')), silent) == "bad" ? 0 : 1;
+    }
+    QVERIFY(readable > 0 && readable < 20000);
+    QCOMPARE(verdict(QStringLiteral("stateNormal,OFF,==,").repeated(200000), silent), QByteArray("bad"));
+}
+
+void PolicyTest::dueActionsAreLoggedAndLaterOnesCancelled()
+{
+    const std::optional<Element> event = parseElement(QString::fromLatin1(batteryEvent));
+    QVERIFY(event);
+    Scenario scenario;
+    scenario.feeds.append(MainsFeed{QString(), 20, 400, 40, 0});
+    DeviceRegistration device;
+    device.id = 1;
+    device.modelName = QStringLiteral("TarvexRT_USB");
+    device.logParams = 2;
+    device.logTimeInterval = 3600;
+    StoredData data;
+    data.devices.append(device);
+    data.policies.insert(1, Policy{defaultPolicy().groups, {*event}});
+    Store store;
+    QString reason;
+    QVERIFY(store.open(QString(), data, reason));
+    qint64 milliseconds = 0;
+    SimulatedBackend backend(
+        scenario, 1, {QDateTime(QDate(2026, 3, 4), QTime(5, 0, 0)), 1.0, [&] { return milliseconds; }});
+    LogRecorder logs(backend, store);
+    backend.setDevices(data.devices, {});
+    backend.start();
+    const PolicyRunner runner(backend, store, logs);
+    milliseconds = 70000;
+    backend.devices();
+    LogPosition position;
+    QStringList expected{QStringLiteral("2026-03-04,05:00:20,message \"Lost; <all> \" on Default"),
+                         QStringLiteral("2026-03-04,05:00:59,output_socket 2 off"),
+                         QStringLiteral("2026-03-04,05:01:00,cancelled power_off shutdown on Default")};
+    for (QString& line : expected)
+        line += QLatin1String(" (stateBatteryBackup)");
+    QCOMPARE(logs.page(1, LogKind::Messages, LogAge::First, position), expected);
+}
+
+QTEST_GUILESS_MAIN(PolicyTest)
+#include "PolicyTest.moc"
