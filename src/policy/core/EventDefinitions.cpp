@@ -15,13 +15,16 @@ namespace {
 
 using Failure = EventDefinitions::Failure;
 
-constexpr QLatin1String paramPrefix("param");
+bool isParameter(const QString& key)
+{
+    return key.startsWith(QLatin1String("param"));
+}
 
 // Sections and the root fall away by their names alone: an entry counts at any depth.
 bool isEntry(const QString& element)
 {
     return element.startsWith(QLatin1String("state")) || element.startsWith(QLatin1String("message")) ||
-           element.startsWith(QLatin1String("alarm")) || element.startsWith(paramPrefix);
+           element.startsWith(QLatin1String("alarm")) || isParameter(element);
 }
 
 void readEntry(EventDefinitions& definitions, const QString& key, const QXmlStreamAttributes& attributes,
@@ -50,12 +53,12 @@ QString translated(const char* source)
 
 bool EventDefinitions::isEventState(const QString& key) const
 {
-    return eventKeys.contains(key) && !key.startsWith(paramPrefix);
+    return eventKeys.contains(key) && !isParameter(key);
 }
 
 bool EventDefinitions::isParam(const QString& key) const
 {
-    return eventKeys.contains(key) && key.startsWith(paramPrefix);
+    return eventKeys.contains(key) && isParameter(key);
 }
 
 QStringList EventDefinitions::getEventList()
