@@ -150,7 +150,7 @@ ALARMS = {
     "InverterFault": ("błąd falownika", "Inverter fault"),
     "InverterSoftFail": ("błąd oprogramowania falownika", "Inverter software fault"),
     "FanLock": ("błąd wentylatora", "Fan fault"),
-    "OverCharge": ("przeładowanie baterii", "Battery overcharge"),
+    "OverCharge": ("przeładowanie - za wysokie napięcie ładowarki", "Overcharge - charger voltage too high"),
     "ChargerFail": ("awaria ładowarki", "Charger failure"),
     "BypassOverload": ("przeciążenie linii bypass", "Bypass overload"),
     "TemperatureOverSettingLimit": ("przekroczony ustawiony limit temperatury", "Set temperature limit exceeded"),

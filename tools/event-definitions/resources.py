@@ -115,6 +115,16 @@ RT_PLUS_PARAMETERS = """
     OutputFreq OutputActivePower
 """
 
+NETWORK_CARD_PARAMETERS = """
+    BatteryCapacity OutputLoad AutonomyTime InputVoltage BatteryVoltage InputFreq OutputVoltage OutputCurrent
+    OutputFreq OutputActivePower BatteryTemp BatteryCurrent SecondsOnBattery
+"""
+
+DOUBLE_CONVERSION_PARAMETERS = """
+    BatteryCapacity OutputLoad AutonomyTime InputVoltage BatteryVoltage InputFreq OutputVoltage OutputCurrent
+    OutputFreq PositiveBusVoltage NegativeBusVoltage Temperature
+"""
+
 # Offered only if the device says that it can work in parallel, or compensate reactive power.
 NEEDS_PARALLEL = {
     "Tarvex33": """
@@ -154,10 +164,7 @@ RESOURCES = [
             BatteryBad OnBattery LowBattery DepletedBattery TempBad InputBad OutputOverload OutputOffAsRequest
             UpsOutputOff GeneralFault AwaitingPower ShutdownPending ShutdownImminent
         """,
-        parameters="""
-            BatteryCapacity OutputLoad AutonomyTime InputVoltage BatteryVoltage InputFreq OutputVoltage
-            OutputCurrent OutputFreq OutputActivePower BatteryTemp BatteryCurrent SecondsOnBattery
-        """,
+        parameters=NETWORK_CARD_PARAMETERS,
     ),
     Resource(
         stem="CormelRT_XL",
@@ -284,10 +291,7 @@ RESOURCES = [
         states=DOUBLE_CONVERSION_STATES,
         messages=DOUBLE_CONVERSION_MESSAGES,
         alarms=RT_PLUS_6_10_ALARMS,
-        parameters="""
-            BatteryCapacity OutputLoad AutonomyTime InputVoltage BatteryVoltage InputFreq OutputVoltage
-            OutputCurrent OutputFreq OutputActivePower BatteryTemp BatteryCurrent SecondsOnBattery
-        """,
+        parameters=NETWORK_CARD_PARAMETERS,
     ),
     Resource(
         stem="TarvexRTPlus6_10_USB",
@@ -296,10 +300,7 @@ RESOURCES = [
         states=DOUBLE_CONVERSION_STATES,
         messages=DOUBLE_CONVERSION_MESSAGES,
         alarms=RT_PLUS_6_10_ALARMS,
-        parameters="""
-            BatteryCapacity OutputLoad AutonomyTime InputVoltage BatteryVoltage InputFreq OutputVoltage
-            OutputCurrent OutputFreq PositiveBusVoltage NegativeBusVoltage Temperature
-        """,
+        parameters=DOUBLE_CONVERSION_PARAMETERS,
     ),
     Resource(
         stem="TarvexRT_6_10",
@@ -394,10 +395,7 @@ RESOURCES = [
         states=DOUBLE_CONVERSION_STATES,
         messages=DOUBLE_CONVERSION_MESSAGES,
         alarms=RT_PRO_ALARMS,
-        parameters="""
-            BatteryCapacity OutputLoad AutonomyTime InputVoltage BatteryVoltage InputFreq OutputVoltage
-            OutputCurrent OutputFreq PositiveBusVoltage NegativeBusVoltage Temperature
-        """,
+        parameters=DOUBLE_CONVERSION_PARAMETERS,
     ),
     Resource(
         stem="Tarvex_RT_PRO_1k_3k_SNMP",
