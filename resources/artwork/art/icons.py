@@ -128,7 +128,7 @@ def _help(size):
 
 
 def status():
-    """Icons of the status strip, the debug warning and the help buttons."""
+    """Icons of the status strip, the debug warning, the help buttons and the mail test."""
     return {
         "ok": _sign(21, _running, 0.9),
         "4e2": _sign(21, _lost, 0.9),
@@ -137,6 +137,8 @@ def status():
         "time": _clock(),
         "small_help": _help(19),
         "warning": _sign(28, lambda g, edge: _attention(g, edge, YELLOW), 0.7),
+        "status_ok_48": _sign(48, _running, 0.6),
+        "status_err_48": _sign(48, _lost, 0.6),
     }
 
 

@@ -35,4 +35,4 @@ def frames(size, weight, inner):
 
 
 # File stem: size in px, stroke in px, second arc.
-ANIMATIONS = {"45": (45, 5, True), "loading_spinner": (21, 3, False)}
+ANIMATIONS = {"45": (45, 5, True), "loading_spinner": (21, 3, False), "spinner_2_48": (48, 5, False)}
