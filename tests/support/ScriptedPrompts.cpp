@@ -54,6 +54,12 @@ std::optional<QString> ScriptedPrompts::chooseFile(QWidget* /*parent*/, const QS
     return take(question).text;
 }
 
+std::optional<QString> ScriptedPrompts::chooseFolder(QWidget* parent, const QString& title,
+                                                     const QString& start)
+{
+    return chooseFile(parent, title, start);
+}
+
 void closeStrayWindows()
 {
     const QWidgetList windows = QApplication::topLevelWidgets();

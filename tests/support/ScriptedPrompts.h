@@ -36,6 +36,7 @@ public:
     Answer ask(QWidget* parent, const Question& question) override;
     std::optional<QString> choose(QWidget* parent, const Choice& choice) override;
     std::optional<QString> chooseFile(QWidget* parent, const QString& title, const QString& filter) override;
+    std::optional<QString> chooseFolder(QWidget* parent, const QString& title, const QString& start) override;
 
 private:
     /// What was foreseen for the next question, after it stood; the failure if it is not this one.

@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QPointer>
+#include <QTextDocument>
 
 namespace Velmora {
 
@@ -21,6 +22,9 @@ public:
             new QMessageBox(question.icon, question.title, QString(), question.buttons, parent));
         box->setTextFormat(Qt::PlainText);
         box->setText(question.text);
+        // The text format does not reach the informative text.
+        if (!question.informativeText.isEmpty())
+            box->setInformativeText(Qt::convertFromPlainText(question.informativeText));
         box->setDefaultButton(question.defaultButton);
         if (!question.checkBoxText.isEmpty())
             box->setCheckBox(new QCheckBox(question.checkBoxText, box));
@@ -51,6 +55,13 @@ public:
     std::optional<QString> chooseFile(QWidget* parent, const QString& title, const QString& filter) override
     {
         const QString path = QFileDialog::getOpenFileName(parent, title, QString(), filter);
+        return path.isEmpty() ? std::nullopt : std::optional(path);
+    }
+
+    std::optional<QString> chooseFolder(QWidget* parent, const QString& title, const QString& start) override
+    {
+        const QString path =
+            QFileDialog::getExistingDirectory(parent, title, start, QFileDialog::ShowDirsOnly);
         return path.isEmpty() ? std::nullopt : std::optional(path);
     }
 };

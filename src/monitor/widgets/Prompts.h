@@ -18,7 +18,8 @@ struct Question
     QMessageBox::Icon icon = QMessageBox::Question;
     QMessageBox::StandardButtons buttons = QMessageBox::Yes | QMessageBox::No;
     QMessageBox::StandardButton defaultButton = QMessageBox::NoButton;
-    QString checkBoxText; ///< empty: no check box
+    QString checkBoxText;    ///< empty: no check box
+    QString informativeText; ///< stands below the text
 };
 
 struct Answer
@@ -46,11 +47,14 @@ public:
     /// Messages of the link are handled while the question stands, so whatever the caller holds may be gone
     /// afterwards. The answer has no button if the program is quitting.
     virtual Answer ask(QWidget* parent, const Question& question) = 0;
-    /// The same holds for these two. No value if the user cancels.
+    /// The same holds for these three. No value if the user cancels.
     virtual std::optional<QString> choose(QWidget* parent, const Choice& choice) = 0;
     /// Path of a file that exists; `filter` as QFileDialog takes it.
     virtual std::optional<QString> chooseFile(QWidget* parent, const QString& title,
                                               const QString& filter) = 0;
+    /// Path of a folder that exists; the choice begins in `start`.
+    virtual std::optional<QString> chooseFolder(QWidget* parent, const QString& title,
+                                                const QString& start) = 0;
 
     /// The prompts in force: real boxes unless a test has put its own in their place.
     [[nodiscard]] static Prompts& current();
