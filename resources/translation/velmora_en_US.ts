@@ -187,6 +187,121 @@
     </message>
 </context>
 <context>
+    <name>ApplicationConfigurationWindow</name>
+    <message>
+        <source>Konfiguracja aplikacji</source>
+        <translation>Application settings</translation>
+    </message>
+    <message>
+        <source>Urządzenia</source>
+        <translation>Devices</translation>
+    </message>
+    <message>
+        <source>Dodaj UPS</source>
+        <translation>Add UPS</translation>
+    </message>
+    <message>
+        <source>Dodaj wirtualny UPS</source>
+        <translation>Add virtual UPS</translation>
+    </message>
+    <message>
+        <source>Konfiguracja SMTP</source>
+        <translation>SMTP settings</translation>
+    </message>
+    <message>
+        <source>Szyfrowanie połączenia</source>
+        <translation>Connection encryption</translation>
+    </message>
+    <message>
+        <source>Serwer SMTP</source>
+        <translation>SMTP server</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>Zakres: 0-65535</source>
+        <translation>Range: 0-65535</translation>
+    </message>
+    <message>
+        <source>Adres e-mail</source>
+        <translation>E-mail address</translation>
+    </message>
+    <message>
+        <source>Limit czasu operacji</source>
+        <translation>Operation time limit</translation>
+    </message>
+    <message>
+        <source>Zakres: 10-120 [s]</source>
+        <translation>Range: 10-120 [s]</translation>
+    </message>
+    <message>
+        <source>Serwer SMTP wymaga uwierzytelnienia</source>
+        <translation>SMTP server requires authentication</translation>
+    </message>
+    <message>
+        <source>Nazwa użytkownika</source>
+        <translation>User name</translation>
+    </message>
+    <message>
+        <source>Hasło</source>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>haslo</source>
+        <translation>password</translation>
+    </message>
+    <message>
+        <source>Testuj ustawienia SMTP</source>
+        <translation>Test SMTP settings</translation>
+    </message>
+    <message>
+        <source>Konfiguracja podstawowa</source>
+        <translation>Basic settings</translation>
+    </message>
+    <message>
+        <source>Lokalizacja logów</source>
+        <translation>Log folder</translation>
+    </message>
+    <message>
+        <source>Wybierz...</source>
+        <translation>Browse...</translation>
+    </message>
+    <message>
+        <source>Uruchom przy starcie systemu</source>
+        <translation>Start with the system</translation>
+    </message>
+    <message>
+        <source>Automatycznie sprawdzaj dostępność aktualizacji</source>
+        <translation>Check for updates automatically</translation>
+    </message>
+    <message>
+        <source>Brak</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>Uwaga</source>
+        <translation>Attention</translation>
+    </message>
+    <message>
+        <source>Nie można zapisać w pliku ustawień panelu, czy ma on sprawdzać dostępność aktualizacji.</source>
+        <translation>The choice whether to check for updates could not be saved to the panel&apos;s settings file.</translation>
+    </message>
+    <message>
+        <source>Wybierz katalog</source>
+        <translation>Choose a folder</translation>
+    </message>
+    <message>
+        <source>Nowy UPS</source>
+        <translation>New UPS</translation>
+    </message>
+    <message>
+        <source>Wirtualny UPS</source>
+        <translation>Virtual UPS</translation>
+    </message>
+</context>
+<context>
     <name>ConnectWithServiceWindow</name>
     <message>
         <source>Połącz z usługą</source>
@@ -1403,6 +1518,37 @@ UPS module</translation>
     <message>
         <source>Domyślne hasło: </source>
         <translation>Default password: </translation>
+    </message>
+</context>
+<context>
+    <name>SmtpTestWindow</name>
+    <message>
+        <source>Test konfiguracji SMTP</source>
+        <translation>SMTP settings test</translation>
+    </message>
+    <message>
+        <source>Inicjalizacja testu...</source>
+        <translation>Starting the test...</translation>
+    </message>
+    <message>
+        <source>Przebieg testu</source>
+        <translation>Test progress</translation>
+    </message>
+    <message>
+        <source>Testowanie konfiguracji...</source>
+        <translation>Testing the settings...</translation>
+    </message>
+    <message>
+        <source>Konfiguracja prawidłowa</source>
+        <translation>The settings are correct</translation>
+    </message>
+    <message>
+        <source>Konfiguracja błędna</source>
+        <translation>The settings are wrong</translation>
+    </message>
+    <message>
+        <source>Usługa nie odpowiada. Czy wersja usługi jest zgodna z wersją panelu kontrolnego Velmora?</source>
+        <translation>The service does not answer. Does its version match that of the Velmora control panel?</translation>
     </message>
 </context>
 <context>

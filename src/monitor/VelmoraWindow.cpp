@@ -141,6 +141,7 @@ void VelmoraWindow::connectController()
     connect(controller, &UpsSocketController::upsConfiguration, this, &VelmoraWindow::upsConfiguration);
     connect(controller, &UpsSocketController::showMessage, this, &VelmoraWindow::showMessage);
     connect(controller, &UpsSocketController::socketError, this, &VelmoraWindow::socketErrorTrigger);
+    connect(controller, &UpsSocketController::smpt2TestStatus, this, &VelmoraWindow::displaySmtp2TestStatus);
     connect(controller, &UpsSocketController::daemonIsBusy, this, &VelmoraWindow::displayDaemonBusy);
     connect(controller, &UpsSocketController::debugModeEnabled, this, &VelmoraWindow::debugModeEnabled);
     connect(controller, &UpsSocketController::showCountdownTimer, this, &VelmoraWindow::showCountdownTimer);
@@ -177,6 +178,10 @@ void VelmoraWindow::connectForm()
     connect(ui->actionExit, &QAction::triggered, this, &VelmoraWindow::reallyClose);
     connect(ui->actionLogout, &QAction::triggered, this, &VelmoraWindow::disableAdministratorButtons);
     connect(ui->actionOnlineHelp, &QAction::triggered, this, &VelmoraWindow::onlineHelpButtonClickHandler);
+    connect(ui->aplicationConfigurationButton, &QPushButton::clicked, this,
+            &VelmoraWindow::applicationConfigurationButtonClickHandler);
+    connect(ui->actionApplicationConfiguration, &QAction::triggered, this,
+            &VelmoraWindow::applicationConfigurationButtonClickHandler);
 }
 
 void VelmoraWindow::prepareDeviceMessages()

@@ -17,6 +17,7 @@
 #include <memory>
 #include <optional>
 
+class ApplicationConfigurationWindow;
 class ConnectWithServiceWindow;
 class DebugWarningWidget;
 class DeviceStatePanel;
@@ -57,6 +58,7 @@ signals:
     void signalEmptyUpsList();
 
 public slots:
+    void applicationConfigurationButtonClickHandler();
     void extendInformationButtonClickHandler();
     void upsEventsButtonClickHandler();
     void onlineHelpButtonClickHandler();
@@ -76,6 +78,8 @@ public slots:
     void debugModeEnabled(bool enabled);
     void serviceVersionReceived(const QString& version);
     void showCountdownTimer(const QList<QPair<int, int>>& timers);
+
+    void displaySmtp2TestStatus(int status, const QStringList& messages);
 
     void toggleWindow(QSystemTrayIcon::ActivationReason reason);
     void toggleWindow();
@@ -140,6 +144,7 @@ private:
     // Null unless the dialog is open; replies that concern it are handed on.
     QPointer<LogiInWindow> logInWindow;
     QPointer<PasswordChangeWindow> passwordChangeWindow;
+    QPointer<ApplicationConfigurationWindow> applicationConfigurationWindow;
     QPointer<ConnectWithServiceWindow> connectWithServiceWindow;
     QPointer<ExtendInformationWindow> extendInformationWindow;
     QPointer<UpsEventsWindow> upsEventsWindow;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "monitor/VelmoraWindow.h"
 
+#include "admin/ApplicationConfigurationWindow.h"
 #include "admin/ConnectWithServiceWindow.h"
 #include "admin/LogiInWindow.h"
 #include "admin/PasswordChangeWindow.h"
@@ -45,6 +46,19 @@ void VelmoraWindow::changeAdminPass()
     connect(socketController.get(), &UpsSocketController::passwordChanged, dialog,
             &PasswordChangeWindow::passwordChanged);
     runModal(passwordChangeWindow, dialog);
+}
+
+void VelmoraWindow::applicationConfigurationButtonClickHandler()
+{
+    auto* dialog = new ApplicationConfigurationWindow(&m_serialPorts, getAllUpsAssignedToVirtualDevice(),
+                                                      getAllUps(), this);
+    dialog->setSocketController(socketController.get());
+    connect(socketController.get(), &UpsSocketController::appConfifuratioReceived, dialog,
+            &ApplicationConfigurationWindow::setApplicationConfigurationFromIni);
+    connect(dialog, &ApplicationConfigurationWindow::SendTestMail, socketController.get(),
+            &UpsSocketController::sendTestMail);
+    dialog->getApplicationConfigurationFromIni();
+    runModal(applicationConfigurationWindow, dialog);
 }
 
 void VelmoraWindow::connectWithService()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "monitor/VelmoraWindow.h"
 
+#include "admin/ApplicationConfigurationWindow.h"
 #include "app/ControlPanelConfiguration.h"
 #include "link/UpsSocketController.h"
 #include "monitor/UpsTreeWidget.h"
@@ -85,6 +86,8 @@ void VelmoraWindow::disableAdministratorButtons()
                                             ui->actionLogout, ui->actionLoggingConfiguration});
     ui->actionActAsAdministrator->setEnabled(true);
     setWindowTitle(applicationTitle);
+    if (applicationConfigurationWindow)
+        applicationConfigurationWindow->setEnabledButtons(false);
 }
 
 void VelmoraWindow::connectingInProgress()
@@ -106,6 +109,8 @@ void VelmoraWindow::displayDaemonBusy(bool busy)
         busyMovie->stop();
     }
     ui->busyLabel->setVisible(busy);
+    if (applicationConfigurationWindow)
+        applicationConfigurationWindow->setEnabledButtons(!busy);
 }
 
 QString VelmoraWindow::debugMarker()
@@ -149,6 +154,12 @@ void VelmoraWindow::showMessage(const QVector<QString>& messages)
 void VelmoraWindow::serviceVersionReceived(const QString& version)
 {
     statusWidget->setServiceVersion(version);
+}
+
+void VelmoraWindow::displaySmtp2TestStatus(int status, const QStringList& messages)
+{
+    if (applicationConfigurationWindow)
+        applicationConfigurationWindow->updateSmtp2TestResultWindow(status, messages);
 }
 
 void VelmoraWindow::onlineHelpButtonClickHandler()

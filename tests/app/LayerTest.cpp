@@ -21,7 +21,7 @@ constexpr Room rooms[] = {
     {"monitor/core/", "link/ devices/core/"},
     {"monitor/widgets/", "monitor/core/"},
     {"admin/core/", "link/"},
-    {"admin/", "link/ admin/core/ monitor/widgets/ app/ControlPanelConfiguration.h"},
+    {"admin/", "link/ admin/core/ devices/ monitor/widgets/ app/ControlPanelConfiguration.h"},
     {"policy/core/", "link/ devices/core/"},
     {"policy/", "link/ policy/core/ monitor/widgets/ app/ControlPanelConfiguration.h"},
     {"devices/", "link/ devices/core/ monitor/widgets/"},

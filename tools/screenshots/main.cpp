@@ -93,6 +93,7 @@ bool takeDialogPictures(PanelDriver& panel, Album& album)
         {triggering("actionConnectWithService"), "service-address", "the service's address"},
         {triggering("actionActAsAdministrator"), "login", "the login"},
         {triggering("actionChangePassword"), "password", "a new administrator password"},
+        {triggering("actionApplicationConfiguration"), "application-settings", "the service's own settings"},
         {[&panel] { panel.requestNewDevice(); }, "new-device", "a new device"},
         {[&panel] { panel.requestChange(); }, "changed-device", "a device that is changed"},
     };
