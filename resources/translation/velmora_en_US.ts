@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="pl">
 <context>
+    <name>AboutWindow</name>
+    <message>
+        <source>O programie</source>
+        <translation>About</translation>
+    </message>
+    <message>
+        <source>Panel sterowania usługą zarządzającą zasilaczami awaryjnymi UPS</source>
+        <translation>Control panel of a UPS management service</translation>
+    </message>
+    <message>
+        <source>Licencja</source>
+        <translation>Licence</translation>
+    </message>
+    <message>
+        <source>Licencja MIT: programu można używać, kopiować go, zmieniać i rozpowszechniać, także odpłatnie, pod warunkiem zachowania informacji o prawach autorskich i tekstu licencji. Program jest dostarczany bez jakiejkolwiek gwarancji.</source>
+        <translation>MIT License: the program may be used, copied, changed and distributed, also for a fee, provided that the copyright notice and the text of the licence are kept. It comes without any warranty.</translation>
+    </message>
+    <message>
+        <source>Biblioteki</source>
+        <translation>Libraries</translation>
+    </message>
+    <message>
+        <source>Wersja %1</source>
+        <translation>Version %1</translation>
+    </message>
+</context>
+<context>
     <name>AddUpsWindow</name>
     <message>
         <source>Nowy UPS</source>
@@ -1589,6 +1616,32 @@ serial number</translation>
     </message>
 </context>
 <context>
+    <name>UpdateChecker</name>
+    <message>
+        <source>Serwer nie przysłał całego pliku (HTTP %1)</source>
+        <translation>The server did not send the whole file (HTTP %1)</translation>
+    </message>
+    <message>
+        <source>Nie można zapisać pliku %1: %2</source>
+        <translation>The file %1 could not be saved: %2</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateDownloadWindow</name>
+    <message>
+        <source>Trwa pobieranie aktualizacji</source>
+        <translation>Downloading the update</translation>
+    </message>
+    <message>
+        <source>Postęp pobierania</source>
+        <translation>Download progress</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+</context>
+<context>
     <name>UpsEventsWindow</name>
     <message>
         <source>Tryb pracy - Inicjalizacja</source>
@@ -2165,6 +2218,38 @@ Do you want to add a new UPS now?
     <message>
         <source>Edycja wirtualny UPS</source>
         <translation>Edit virtual UPS</translation>
+    </message>
+    <message>
+        <source>Błąd połączenia</source>
+        <translation>Connection error</translation>
+    </message>
+    <message>
+        <source>Nie można połączyć się z witryną </source>
+        <translation>Could not connect to </translation>
+    </message>
+    <message>
+        <source>Aktualizacja</source>
+        <translation>Update</translation>
+    </message>
+    <message>
+        <source>Brak dostępnych aktualizacji</source>
+        <translation>No updates are available</translation>
+    </message>
+    <message>
+        <source>Aktualizacja oprogramowania</source>
+        <translation>Software update</translation>
+    </message>
+    <message>
+        <source>Dostępna jest nowa wersja Velmora!</source>
+        <translation>A new version of Velmora is available!</translation>
+    </message>
+    <message>
+        <source> Czy chcesz pobrać Velmora </source>
+        <translation> Do you want to download Velmora </translation>
+    </message>
+    <message>
+        <source>W celu przeprowadzenia aktualizacji należy uruchomić ControlPanel jako użytkownik o podwyższonych uprawnieniach</source>
+        <translation>To install the update, run ControlPanel as a user with elevated privileges</translation>
     </message>
 </context>
 </TS>

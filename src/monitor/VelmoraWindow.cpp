@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "monitor/VelmoraWindow.h"
 
+#include "admin/core/UpdateChecker.h"
 #include "app/ControlPanelConfiguration.h"
 #include "link/UpsSocketController.h"
 #include "monitor/DeviceStatePanel.h"
@@ -32,9 +33,14 @@ constexpr int minimumWindowWidth = 962;
 } // namespace
 
 VelmoraWindow::VelmoraWindow(QWidget* parent)
+    : VelmoraWindow(Velmora::UpdateEnvironment(), parent)
+{}
+
+VelmoraWindow::VelmoraWindow(const Velmora::UpdateEnvironment& updates, QWidget* parent)
     : QMainWindow(parent)
     , applicationTitle(QLatin1String("Velmora Professional v. ") + Velmora::panelVersion())
     , ui(std::make_unique<Ui::VelmoraWindow>())
+    , m_updates(updates)
     , notAvailableText(tr("N/D"))
 {
     ui->setupUi(this);
@@ -71,6 +77,10 @@ VelmoraWindow::VelmoraWindow(QWidget* parent)
     busyMovie = std::make_unique<QMovie>(QStringLiteral(":/images/images/45.gif"));
     ui->busyLabel->setMovie(busyMovie.get());
     ui->busyLabel->hide();
+
+    createUpdateChecker();
+    if (configuration.getCheckForUpdates())
+        checkForUpdates();
 
     ui->horizontalLayout_2->addStretch();
     debugWarning = new DebugWarningWidget(this);
@@ -182,6 +192,8 @@ void VelmoraWindow::connectForm()
             &VelmoraWindow::applicationConfigurationButtonClickHandler);
     connect(ui->actionApplicationConfiguration, &QAction::triggered, this,
             &VelmoraWindow::applicationConfigurationButtonClickHandler);
+    connect(ui->actionCheckForUpdates, &QAction::triggered, this, &VelmoraWindow::checkForUpdates);
+    connect(ui->actionAbout, &QAction::triggered, this, &VelmoraWindow::aboutButtonClickHandler);
 }
 
 void VelmoraWindow::prepareDeviceMessages()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "admin/core/UpdateEnvironment.h"
 #include "link/DeviceRecords.h"
 #include "monitor/core/DeviceStateView.h"
 #include "monitor/core/ShutdownTimersData.h"
@@ -27,6 +28,7 @@ class PasswordChangeWindow;
 class QLocalServer;
 class QMenu;
 class QMovie;
+class UpdateChecker;
 class UpsEventsWindow;
 class UpsTreeElement;
 class UpsTreeWidget;
@@ -50,6 +52,8 @@ class VelmoraWindow final : public QMainWindow
 public:
     /// Ends the process with status 1 if another panel runs.
     explicit VelmoraWindow(QWidget* parent = nullptr);
+    /// Takes its updates from elsewhere than the maker.
+    explicit VelmoraWindow(const Velmora::UpdateEnvironment& updates, QWidget* parent = nullptr);
     ~VelmoraWindow() override;
 
 signals:
@@ -60,6 +64,7 @@ signals:
 public slots:
     void applicationConfigurationButtonClickHandler();
     void extendInformationButtonClickHandler();
+    void aboutButtonClickHandler();
     void upsEventsButtonClickHandler();
     void onlineHelpButtonClickHandler();
 
@@ -80,6 +85,8 @@ public slots:
     void showCountdownTimer(const QList<QPair<int, int>>& timers);
 
     void displaySmtp2TestStatus(int status, const QStringList& messages);
+    /// Offers the version if it is newer; says that there is none if the user asked.
+    void displayAvailableUpdateInfo(bool userRequested, const QString& version);
 
     void toggleWindow(QSystemTrayIcon::ActivationReason reason);
     void toggleWindow();
@@ -90,6 +97,8 @@ public slots:
     void enableAdministratorButtons();
     void disableAdministratorButtons();
     void changeAdminPass();
+    /// The user's own request if an action is the sender.
+    void checkForUpdates();
     void connectWithService();
     void connectingInProgress();
 
@@ -105,6 +114,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private slots:
+    void networkUnavailable();
     void slotEmptyUpsList();
 
 private:
@@ -116,6 +126,11 @@ private:
     void connectTree();
     void connectForm();
     void prepareDeviceMessages();
+    void createUpdateChecker();
+
+    [[nodiscard]] bool updateWanted(const QString& version);
+    void beginUpdate();
+    void downloadUpdate();
 
     void editPhysicalDevice(const Velmora::Utils::Ups& ups);
     void editVirtualDevice(const UpsTreeElement& element);
@@ -166,6 +181,10 @@ private:
     QTimer* countdownTimer = nullptr;
     Velmora::ShutdownTimersData shutdownTimers;
     VLStatusWidget* statusWidget = nullptr;
+
+    Velmora::UpdateEnvironment m_updates;
+    std::unique_ptr<UpdateChecker> updateChecker;
+    bool m_updateOffered = false; ///< the user is being asked, or an installer is on its way
 
     bool administratorMode = false;
     bool showAddUpsPrompt = true;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "monitor/VelmoraWindow.h"
 
+#include "admin/AboutWindow.h"
 #include "admin/ApplicationConfigurationWindow.h"
 #include "admin/ConnectWithServiceWindow.h"
 #include "admin/LogiInWindow.h"
@@ -59,6 +60,11 @@ void VelmoraWindow::applicationConfigurationButtonClickHandler()
             &UpsSocketController::sendTestMail);
     dialog->getApplicationConfigurationFromIni();
     runModal(applicationConfigurationWindow, dialog);
+}
+
+void VelmoraWindow::aboutButtonClickHandler()
+{
+    runModal(new AboutWindow(nullptr));
 }
 
 void VelmoraWindow::connectWithService()

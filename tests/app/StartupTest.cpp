@@ -90,7 +90,7 @@ void StartupTest::init()
     m_folder = std::make_unique<QTemporaryDir>();
     QFile ini(m_folder->filePath(QStringLiteral("panel.ini")));
     QVERIFY(ini.open(QIODevice::WriteOnly));
-    ini.write("server_address=" + ScriptedService::testAddress().toUtf8());
+    ini.write("check_updates=false\nserver_address=" + ScriptedService::testAddress().toUtf8());
     m_service = std::make_unique<ScriptedService>();
     QVERIFY(m_service->start());
 }

@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Velmora developers
 // SPDX-License-Identifier: MIT
+#include "admin/AboutWindow.h"
 #include "admin/ApplicationConfigurationWindow.h"
 #include "admin/ConnectWithServiceWindow.h"
 #include "admin/LogiInWindow.h"
 #include "admin/PasswordChangeWindow.h"
 #include "admin/SmtpTestWindow.h"
+#include "admin/UpdateDownloadWindow.h"
 #include "app/Startup.h"
 #include "link/UpsSocketController.h"
 #include "monitor/ExtendInformationWindow.h"
@@ -80,6 +82,8 @@ const DialogRow dialogRows[] = {
                                                                  QList<Velmora::Utils::Ups>(), nullptr);
      }},
     {"mail test", [](auto* /*link*/) { return mailTest(); }},
+    {"download of an update", [](auto* /*link*/) { return std::make_unique<UpdateDownloadWindow>(nullptr); }},
+    {"about", [](auto* /*link*/) { return std::make_unique<AboutWindow>(nullptr); }},
     {"extended information of a UPS", [](auto* /*link*/) { return extendedInformation(false); }},
     {"extended information of a genset", [](auto* /*link*/) { return extendedInformation(true); }},
     {"events before the first history", [](auto* /*link*/) { return events(""); }},
@@ -87,7 +91,9 @@ const DialogRow dialogRows[] = {
 };
 
 /// Texts that read the same in both languages.
-const QRegularExpression sameInBoth(QStringLiteral("^(OK|D\\+|Port|TLS|SSL|\\S+example\\.com)$"));
+const QRegularExpression sameInBoth(
+    QStringLiteral("^(OK|D\\+|Port|TLS|SSL|\\S+example\\.com|Velmora Professional|© .*|Qt \\S+|zlib|Boost|"
+                   "GNU LGPL .*|.* License.*)$"));
 
 QStringList& warnings()
 {

@@ -76,7 +76,10 @@ WindowFixture::WindowFixture()
 {
     initResources();
     QFile::remove(qEnvironmentVariable("VELMORA_CONTROL_PANEL_INI"));
-    ControlPanelConfiguration().setServerAddress(ScriptedService::testAddress());
+    ControlPanelConfiguration configuration;
+    configuration.setServerAddress(ScriptedService::testAddress());
+    // Tests ask nothing of the maker's server.
+    configuration.setCheckForUpdates(false);
 }
 
 WindowFixture::~WindowFixture()

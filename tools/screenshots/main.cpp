@@ -94,6 +94,7 @@ bool takeDialogPictures(PanelDriver& panel, Album& album)
         {triggering("actionActAsAdministrator"), "login", "the login"},
         {triggering("actionChangePassword"), "password", "a new administrator password"},
         {triggering("actionApplicationConfiguration"), "application-settings", "the service's own settings"},
+        {triggering("actionAbout"), "about", "version and licence"},
         {[&panel] { panel.requestNewDevice(); }, "new-device", "a new device"},
         {[&panel] { panel.requestChange(); }, "changed-device", "a device that is changed"},
     };
