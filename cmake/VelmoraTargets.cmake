@@ -23,6 +23,9 @@ if(VELMORA_SANITIZE)
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(velmora-flags INTERFACE -fsanitize=address,undefined)
 endif()
+if(VELMORA_FUZZ)
+    target_compile_options(velmora-flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # velmora_library(NAME SOURCES file... USES target...)
 # One room: a static library that may include from itself and from the rooms it USES.
@@ -49,4 +52,22 @@ function(velmora_test name)
     set_tests_properties(${name} PROPERTIES
         TIMEOUT 300
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;TMPDIR=${folder};HOME=${folder};LC_ALL=C.UTF-8;LANGUAGE=;VELMORA_TEST_ADDRESS=${ARG_ADDRESS};VELMORA_CONTROL_PANEL_INI=${folder}/control_panel.ini;ASAN_OPTIONS=detect_leaks=1;LSAN_OPTIONS=suppressions=${VELMORA_ROOT}/tests/lsan.supp;UBSAN_OPTIONS=print_stacktrace=1")
+endfunction()
+
+# velmora_fuzz(NAME USES target...)
+# A fuzz target whose entry function stands in NAME.cpp. With VELMORA_FUZZ it is a libFuzzer program; in every other
+# build a test of the same name gives it the files of corpus/NAME, of which there must be some.
+function(velmora_fuzz name)
+    cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "USES")
+    set(corpus ${CMAKE_CURRENT_SOURCE_DIR}/corpus/${name})
+    add_executable(${name} ${name}.cpp)
+    target_link_libraries(${name} PRIVATE ${ARG_USES} velmora-flags)
+    add_dependencies(velmora-fuzz ${name})
+    if(VELMORA_FUZZ)
+        target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+        return()
+    endif()
+    target_sources(${name} PRIVATE ReplayMain.cpp)
+    add_test(NAME ${name} COMMAND ${name} ${corpus})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 60 ENVIRONMENT "LC_ALL=C.UTF-8;UBSAN_OPTIONS=print_stacktrace=1")
 endfunction()

@@ -56,8 +56,8 @@ QVector<Source> sources(const QStringList& folders)
 
 QVector<Source> allSources()
 {
-    return sources(
-        {QStringLiteral("src"), QStringLiteral("service"), QStringLiteral("tests"), QStringLiteral("bench")});
+    return sources({QStringLiteral("src"), QStringLiteral("service"), QStringLiteral("tests"),
+                    QStringLiteral("bench"), QStringLiteral("fuzz")});
 }
 
 /// What `include` in the file `path` (both below src/) offends against; empty if nothing.

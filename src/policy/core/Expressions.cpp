@@ -12,7 +12,7 @@ namespace Velmora {
 namespace {
 
 // Parser, printer and the tree itself recurse: by parentheses, and by the length of a chain of operators.
-constexpr std::size_t longestInfix = 32768;
+constexpr std::size_t longestInfix = 16384;
 constexpr int deepestNesting = 256;
 constexpr int longestPostfix = 65536;
 

@@ -15,7 +15,7 @@ namespace Velmora {
 [[nodiscard]] QString addSpaceBeforeOp(QString text);
 
 /// Postfix form of an infix text whose operators stand between blanks. Nothing if the text as a whole is no
-/// expression, is longer than 32,768 bytes or nests more than 256 parentheses.
+/// expression, is longer than 16,384 bytes or nests more than 256 parentheses.
 [[nodiscard]] std::optional<QString> postfixFromInfix(const QString& text);
 
 /// Infix form with a pair of parentheses for every operation. Each operation is put in front of what is left,
