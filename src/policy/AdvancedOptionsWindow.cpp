@@ -40,10 +40,8 @@ AdvancedOptionsWindow::AdvancedOptionsWindow(const Velmora::Utils::Ups& device, 
     wire();
     showValidity(ui->expressionTextIn);
     showValidity(ui->expressionTextOut);
-    if (!m_definitions.failureTitle().isEmpty())
-        (void)Velmora::Prompts::current().ask(this, {m_definitions.failureTitle(),
-                                                     m_definitions.failureText(), QMessageBox::Critical,
-                                                     QMessageBox::Ok, QMessageBox::Ok, QString()});
+    if (m_definitions.failure != Velmora::EventDefinitions::Failure::None)
+        tellFailure();
     if (!m_definitions.isFound())
         return;
     prefill();
@@ -73,6 +71,16 @@ void AdvancedOptionsWindow::wire()
     connect(ui->saveEventButton, &QPushButton::clicked, this, &AdvancedOptionsWindow::accept);
     connect(ui->saveAsNewEventButton, &QPushButton::clicked, this, &AdvancedOptionsWindow::accept);
     connect(ui->cancelButton, &QPushButton::clicked, this, &AdvancedOptionsWindow::reject);
+}
+
+void AdvancedOptionsWindow::tellFailure()
+{
+    Velmora::Question box;
+    box.title = m_definitions.failureTitle();
+    box.text = m_definitions.failureText();
+    box.icon = QMessageBox::Critical;
+    box.buttons = QMessageBox::Ok;
+    (void)Velmora::Prompts::current().ask(this, box);
 }
 
 void AdvancedOptionsWindow::prefill()

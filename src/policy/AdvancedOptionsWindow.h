@@ -55,6 +55,7 @@ public slots:
 
 private:
     void wire();
+    void tellFailure();
     void prefill();
     void showValidity(QTextEdit* edit);
     void filter(QListWidget* list, const QString& pattern);
