@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "link/TextHelpers.h"
 #include "service/Logging.h"
+#include "service/mail/MailTest.h"
 #include "service/server/RequestDispatcher.h"
 
 namespace Velmora::Service {
 
 namespace {
-
-constexpr int mailTestFailed = 2;
 
 void sendApplicationConfiguration(const RequestScope& scope, const Element& /*request*/)
 {
@@ -30,10 +29,21 @@ void saveApplicationConfiguration(const RequestScope& scope, const Element& requ
     }));
 }
 
-void reportMailTest(const RequestScope& scope, const Element& /*request*/)
+void testMailAccount(const RequestScope& scope, const Element& request)
 {
-    scope.reply(mailTestReply(
-        mailTestFailed, {QStringLiteral("This service cannot send mail; the settings were not tested.")}));
+    QString fault;
+    const std::optional<MailSettings> settings = readMailSettings(request, fault);
+    if (!settings) {
+        scope.reply(mailTestReply(MailTest::failed, {fault}));
+        return;
+    }
+    ClientSession* session = &scope.session();
+    session->mailTest() = std::make_unique<MailTest>(*settings);
+    MailTest* test = session->mailTest().get();
+    QObject::connect(test, &MailTest::reported, session, [session](int status, const QStringList& messages) {
+        session->send(mailTestReply(status, messages));
+    });
+    test->start();
 }
 
 void sendAdministratorDigest(const RequestScope& scope, const Element& /*request*/)
@@ -83,7 +93,7 @@ QVector<RequestEntry> administrationRequests()
     return {
         {"get_application_configuration", Access::Watch, sendApplicationConfiguration},
         {"application_configuration", Access::Change, saveApplicationConfiguration},
-        {"smtp2_send_test_mail", Access::Change, reportMailTest},
+        {"smtp2_send_test_mail", Access::Change, testMailAccount},
         {"get_password", Access::Watch, sendAdministratorDigest},
         {"change_password", Access::Change, changeAdministratorPassword},
         {"get_netclient_pass", Access::Watch, sendClientDigest},

@@ -5,6 +5,7 @@
 #include "link/Cipher.h"
 #include "link/Frame.h"
 #include "service/Logging.h"
+#include "service/mail/MailTest.h"
 #include "service/wire/Replies.h"
 
 #include <QHostAddress>

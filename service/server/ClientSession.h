@@ -8,11 +8,14 @@
 #include <QObject>
 #include <QTimer>
 
+#include <memory>
 #include <optional>
 
 class QTcpSocket;
 
 namespace Velmora::Service {
+
+class MailTest;
 
 /// Where a connection stands in the log that it is paging through.
 struct LogBookmark
@@ -47,6 +50,8 @@ public:
     void selectDevice(int id) { m_selectedDevice = id; }
 
     std::optional<LogBookmark>& logBookmark() { return m_logBookmark; }
+    /// The test mail that this panel asked for last; a new one ends it, as does the end of the connection.
+    std::unique_ptr<MailTest>& mailTest() { return m_mailTest; }
 
 signals:
     void messageReceived(const QString& text);
@@ -61,6 +66,7 @@ private:
     QString m_peer;
     int m_selectedDevice = noDevice;
     std::optional<LogBookmark> m_logBookmark;
+    std::unique_ptr<MailTest> m_mailTest;
     bool m_closed = false;
 };
 
