@@ -1616,6 +1616,699 @@ serial number</translation>
     </message>
 </context>
 <context>
+    <name>UPSConfigurationWindow</name>
+    <message>
+        <source>Konfiguracja UPS</source>
+        <translation>UPS configuration</translation>
+    </message>
+    <message>
+        <source>Ustawienia i polecenia</source>
+        <translation>Settings and commands</translation>
+    </message>
+    <message>
+        <source>Zmiany zapisuje się pojedynczo: pozostałe pozycje są zablokowane, dopóki zmieniona nie zostanie zapisana lub przywrócona.</source>
+        <translation>Changes are saved one at a time: the other entries are locked until the changed one is saved or restored.</translation>
+    </message>
+    <message>
+        <source>Uwaga</source>
+        <translation>Attention</translation>
+    </message>
+    <message>
+        <source>Napięcie wyjściowe</source>
+        <translation>Output voltage</translation>
+    </message>
+    <message>
+        <source>Częstotliwość wyjściowa</source>
+        <translation>Output frequency</translation>
+    </message>
+    <message>
+        <source>Próg dolny wejściowy</source>
+        <translation>Lower input threshold</translation>
+    </message>
+    <message>
+        <source>Próg górny wejściowy</source>
+        <translation>Upper input threshold</translation>
+    </message>
+    <message>
+        <source>Próg dolny AVR Boost</source>
+        <translation>Lower AVR boost threshold</translation>
+    </message>
+    <message>
+        <source>Próg dolny AVR Trim</source>
+        <translation>Lower AVR trim threshold</translation>
+    </message>
+    <message>
+        <source>Liczba modułów bateryjnych</source>
+        <translation>Number of battery modules</translation>
+    </message>
+    <message>
+        <source>Opóźnienie trybu oczekiwania</source>
+        <translation>Standby delay</translation>
+    </message>
+    <message>
+        <source>Minimalna pojemność powrotu</source>
+        <translation>Minimum capacity for return</translation>
+    </message>
+    <message>
+        <source>Napięcie wyjściowe L1</source>
+        <translation>Output voltage L1</translation>
+    </message>
+    <message>
+        <source>Napięcie wyjściowe L2</source>
+        <translation>Output voltage L2</translation>
+    </message>
+    <message>
+        <source>Napięcie wyjściowe L3</source>
+        <translation>Output voltage L3</translation>
+    </message>
+    <message>
+        <source>Próg górny częstotliwościowy</source>
+        <translation>Upper frequency threshold</translation>
+    </message>
+    <message>
+        <source>Próg dolny częstotliwościowy</source>
+        <translation>Lower frequency threshold</translation>
+    </message>
+    <message>
+        <source>Przeciążenie stop</source>
+        <translation>Overload ends at</translation>
+    </message>
+    <message>
+        <source>Pojemność ze standby</source>
+        <translation>Capacity to leave standby</translation>
+    </message>
+    <message>
+        <source>Pojemność sekcji akumulatorów</source>
+        <translation>Battery section capacity</translation>
+    </message>
+    <message>
+        <source>Czas autonomii przy którym 
+zgłaszany jest niski poziom baterii</source>
+        <translation>Runtime at which low battery
+is reported</translation>
+    </message>
+    <message>
+        <source>Prąd ładowania</source>
+        <translation>Charging current</translation>
+    </message>
+    <message>
+        <source>Adres jednostki równoległej</source>
+        <translation>Parallel unit address</translation>
+    </message>
+    <message>
+        <source>Minimalna liczba jednostek 
+w pracy równoległej</source>
+        <translation>Minimum number of units
+in parallel operation</translation>
+    </message>
+    <message>
+        <source>Adres Modbus</source>
+        <translation>Modbus address</translation>
+    </message>
+    <message>
+        <source>Czas wyłączenia komputera</source>
+        <translation>Computer shutdown time</translation>
+    </message>
+    <message>
+        <source>Czas oczekiwania przed włączeniem UPS</source>
+        <translation>Wait before the UPS turns on</translation>
+    </message>
+    <message>
+        <source>Wymuszenie oczekiwania</source>
+        <translation>Force standby</translation>
+    </message>
+    <message>
+        <source>Alarm dźwiękowy</source>
+        <translation>Audible alarm</translation>
+    </message>
+    <message>
+        <source>Bypass</source>
+        <translation>Bypass</translation>
+    </message>
+    <message>
+        <source>Blokada klawiatury</source>
+        <translation>Keypad lock</translation>
+    </message>
+    <message>
+        <source>Tryb ECO</source>
+        <translation>ECO mode</translation>
+    </message>
+    <message>
+        <source>Włączenie urządzenia</source>
+        <translation>Device on</translation>
+    </message>
+    <message>
+        <source>Wywołanie testu akumulatorów</source>
+        <translation>Start battery test</translation>
+    </message>
+    <message>
+        <source>Wyzwolenie EPO</source>
+        <translation>Trigger EPO</translation>
+    </message>
+    <message>
+        <source>Blokada EPO</source>
+        <translation>Disable EPO</translation>
+    </message>
+    <message>
+        <source>Kontrola zasilania linii obejściowej</source>
+        <translation>Check bypass line supply</translation>
+    </message>
+    <message>
+        <source>Kasowanie st. awaryjnych prost.</source>
+        <translation>Clear rectifier faults</translation>
+    </message>
+    <message>
+        <source>Kasowanie st. awaryjnych fal.</source>
+        <translation>Clear inverter faults</translation>
+    </message>
+    <message>
+        <source>Kasowanie st. awaryjnych</source>
+        <translation>Clear faults</translation>
+    </message>
+    <message>
+        <source>Resetowanie licznika zużycia akumulatora</source>
+        <translation>Reset battery wear counter</translation>
+    </message>
+    <message>
+        <source>Zdalne włączenie UPS</source>
+        <translation>Turn the UPS on remotely</translation>
+    </message>
+    <message>
+        <source>Zdalne wyłączenie UPS</source>
+        <translation>Turn the UPS off remotely</translation>
+    </message>
+    <message>
+        <source>Przywróć ustawienia domyślne UPS</source>
+        <translation>Restore UPS default settings</translation>
+    </message>
+    <message>
+        <source>Sygnalizacja dźwiękowa</source>
+        <translation>Audible signals</translation>
+    </message>
+    <message>
+        <source>Sygnalizacja dźwiękowa w trybie pracy bypass</source>
+        <translation>Audible signals in bypass mode</translation>
+    </message>
+    <message>
+        <source>Sygnalizacja dźwiękowa w trybie pracy rezerwowej</source>
+        <translation>Audible signals in battery mode</translation>
+    </message>
+    <message>
+        <source>Automatyczny restart UPS</source>
+        <translation>Automatic UPS restart</translation>
+    </message>
+    <message>
+        <source>Bypass gdy UPS jest wyłączony</source>
+        <translation>Bypass while the UPS is off</translation>
+    </message>
+    <message>
+        <source>Przeciążenie start</source>
+        <translation>Overload starts at</translation>
+    </message>
+    <message>
+        <source>Nadmierny wzrost temperatury start</source>
+        <translation>Overtemperature starts at</translation>
+    </message>
+    <message>
+        <source>Test baterii 10 s</source>
+        <translation>10 s battery test</translation>
+    </message>
+    <message>
+        <source>Test baterii do niskiego poziomu</source>
+        <translation>Battery test until low battery</translation>
+    </message>
+    <message>
+        <source>Czas testu baterii</source>
+        <translation>Battery test duration</translation>
+    </message>
+    <message>
+        <source>Test baterii przez określony czas</source>
+        <translation>Battery test for the set duration</translation>
+    </message>
+    <message>
+        <source>Anuluj test baterii</source>
+        <translation>Cancel battery test</translation>
+    </message>
+    <message>
+        <source>Wyczyść wyniki testu baterii</source>
+        <translation>Clear battery test results</translation>
+    </message>
+    <message>
+        <source>Tryb konwersji</source>
+        <translation>Converter mode</translation>
+    </message>
+    <message>
+        <source>Autodetekcja częstotliwości</source>
+        <translation>Frequency autodetection</translation>
+    </message>
+    <message>
+        <source>Funkcja głębokiego rozładowania</source>
+        <translation>Deep discharge function</translation>
+    </message>
+    <message>
+        <source>Reset po zwarciu</source>
+        <translation>Reset after short circuit</translation>
+    </message>
+    <message>
+        <source>Blokada bypass</source>
+        <translation>Disable bypass</translation>
+    </message>
+    <message>
+        <source>Zakres częst. Bypass (dolne ograniczenie)</source>
+        <translation>Bypass frequency range (lower limit)</translation>
+    </message>
+    <message>
+        <source>Zakres częst. Bypass (górne ograniczenie)</source>
+        <translation>Bypass frequency range (upper limit)</translation>
+    </message>
+    <message>
+        <source>Zakres napięcia Bypass (dolne ograniczenie)</source>
+        <translation>Bypass voltage range (lower limit)</translation>
+    </message>
+    <message>
+        <source>Zakres napięcia Bypass (górne ograniczenie)</source>
+        <translation>Bypass voltage range (upper limit)</translation>
+    </message>
+    <message>
+        <source>Dolne ograniczenie częst. ECO</source>
+        <translation>ECO lower frequency limit</translation>
+    </message>
+    <message>
+        <source>Górne ograniczenie częst. ECO</source>
+        <translation>ECO upper frequency limit</translation>
+    </message>
+    <message>
+        <source>Dolne ograniczenie napięcia ECO</source>
+        <translation>ECO lower voltage limit</translation>
+    </message>
+    <message>
+        <source>Górne ograniczenie napięcia ECO</source>
+        <translation>ECO upper voltage limit</translation>
+    </message>
+    <message>
+        <source>Włączenie gniazd wyjściowych - sekcja nr 1</source>
+        <translation>Output sockets on - section 1</translation>
+    </message>
+    <message>
+        <source>Włączenie gniazd wyjściowych - sekcja nr 2</source>
+        <translation>Output sockets on - section 2</translation>
+    </message>
+    <message>
+        <source>Funkcja Green</source>
+        <translation>Green function</translation>
+    </message>
+    <message>
+        <source>Dźwięki klawiszy</source>
+        <translation>Key sounds</translation>
+    </message>
+    <message>
+        <source>Próg dolny wyjściowy</source>
+        <translation>Lower output threshold</translation>
+    </message>
+    <message>
+        <source>Próg górny wyjściowy</source>
+        <translation>Upper output threshold</translation>
+    </message>
+    <message>
+        <source>Próg dolny częstotliwościowy wyjściowy</source>
+        <translation>Lower output frequency threshold</translation>
+    </message>
+    <message>
+        <source>Próg górny częstotliwościowy wyjściowy</source>
+        <translation>Upper output frequency threshold</translation>
+    </message>
+    <message>
+        <source>Ethernet włączony</source>
+        <translation>Ethernet on</translation>
+    </message>
+    <message>
+        <source>Resetuj ethernet</source>
+        <translation>Reset Ethernet</translation>
+    </message>
+    <message>
+        <source>DHCP włączony</source>
+        <translation>DHCP on</translation>
+    </message>
+    <message>
+        <source>Adres IP karty sieciowej</source>
+        <translation>Network card IP address</translation>
+    </message>
+    <message>
+        <source>Maska podsieci</source>
+        <translation>Subnet mask</translation>
+    </message>
+    <message>
+        <source>Brama domyślna</source>
+        <translation>Default gateway</translation>
+    </message>
+    <message>
+        <source>HTTP włączony</source>
+        <translation>HTTP on</translation>
+    </message>
+    <message>
+        <source>Użytkownik - serwis HTTP</source>
+        <translation>HTTP service - user</translation>
+    </message>
+    <message>
+        <source>Hasło - serwis HTTP</source>
+        <translation>HTTP service - password</translation>
+    </message>
+    <message>
+        <source>SNMP włączony</source>
+        <translation>SNMP on</translation>
+    </message>
+    <message>
+        <source>Hasło - odczyt SNMP</source>
+        <translation>SNMP read community</translation>
+    </message>
+    <message>
+        <source>Hasło - zapis SNMP</source>
+        <translation>SNMP write community</translation>
+    </message>
+    <message>
+        <source>Tylko do odczytu</source>
+        <translation>Read only</translation>
+    </message>
+    <message>
+        <source>SNMP trap włączony</source>
+        <translation>SNMP traps on</translation>
+    </message>
+    <message>
+        <source>Adres IP dla notyfikacji SNMP</source>
+        <translation>SNMP notification IP address</translation>
+    </message>
+    <message>
+        <source>Hasło - notyfikacje SNMP</source>
+        <translation>SNMP notification community</translation>
+    </message>
+    <message>
+        <source>Zdalne włączenie agregatu</source>
+        <translation>Start the genset remotely</translation>
+    </message>
+    <message>
+        <source>Zdalne wyłączenie agregatu</source>
+        <translation>Stop the genset remotely</translation>
+    </message>
+    <message>
+        <source>Resetuj statystyki</source>
+        <translation>Reset statistics</translation>
+    </message>
+    <message>
+        <source>Obwód sieci elektrycznej zamknięty</source>
+        <translation>Mains circuit breaker closed</translation>
+    </message>
+    <message>
+        <source>Obwód agregatu zamknięty</source>
+        <translation>Genset circuit breaker closed</translation>
+    </message>
+    <message>
+        <source>Hasło dostępu</source>
+        <translation>Access code</translation>
+    </message>
+    <message>
+        <source>Tryb pracy kontrolera</source>
+        <translation>Controller mode</translation>
+    </message>
+    <message>
+        <source>Dummy 0</source>
+        <translation>Dummy 0</translation>
+    </message>
+    <message>
+        <source>Dummy 1</source>
+        <translation>Dummy 1</translation>
+    </message>
+    <message>
+        <source>Dummy 2</source>
+        <translation>Dummy 2</translation>
+    </message>
+    <message>
+        <source>Dummy 3</source>
+        <translation>Dummy 3</translation>
+    </message>
+    <message>
+        <source>Dummy 4</source>
+        <translation>Dummy 4</translation>
+    </message>
+    <message>
+        <source>Autotest 10 s</source>
+        <translation>10 s self-test</translation>
+    </message>
+    <message>
+        <source>Górny próg napięcia 
+wejściowego</source>
+        <translation>Upper input voltage
+threshold</translation>
+    </message>
+    <message>
+        <source>Dolny próg napięcia 
+wejściowego</source>
+        <translation>Lower input voltage
+threshold</translation>
+    </message>
+    <message>
+        <source>Tolerancja częstotliwości 
+sieci zasilającej</source>
+        <translation>Mains frequency
+tolerance</translation>
+    </message>
+    <message>
+        <source>Konfiguracja trybu ECO UPS</source>
+        <translation>UPS ECO mode setup</translation>
+    </message>
+    <message>
+        <source>Kontrola poprawności bypass</source>
+        <translation>Bypass validity check</translation>
+    </message>
+    <message>
+        <source>Bypass - górna tolerancja 
+napięcia</source>
+        <translation>Bypass - upper voltage
+tolerance</translation>
+    </message>
+    <message>
+        <source>Bypass - dolna tolerancja 
+napięcia</source>
+        <translation>Bypass - lower voltage
+tolerance</translation>
+    </message>
+    <message>
+        <source>Opóźnienie ponownego zasilenia 
+wyjść</source>
+        <translation>Delay before outputs are
+supplied again</translation>
+    </message>
+    <message>
+        <source>Opóźnienie powrotu na zasilanie 
+sieciowe</source>
+        <translation>Delay before return
+to mains supply</translation>
+    </message>
+    <message>
+        <source>Próg pojemności, przy którym
+zgłaszany jest niski poziom baterii</source>
+        <translation>Capacity at which low battery
+is reported</translation>
+    </message>
+    <message>
+        <source>Okres automatycznego testu baterii</source>
+        <translation>Automatic battery test interval</translation>
+    </message>
+    <message>
+        <source>Zimny start</source>
+        <translation>Cold start</translation>
+    </message>
+    <message>
+        <source>Wygaszacz ekranu</source>
+        <translation>Screen saver</translation>
+    </message>
+    <message>
+        <source>Test wyświetlacza LCD</source>
+        <translation>LCD test</translation>
+    </message>
+    <message>
+        <source>Automatyczne wyłaczenie gniazd 
+sterowalnych poniżej pojemności</source>
+        <translation>Switch controllable sockets off
+automatically below capacity</translation>
+    </message>
+    <message>
+        <source>Opóźnienie automatycznego wyłączenia 
+gniazd sterowalnych</source>
+        <translation>Delay before controllable sockets
+switch off automatically</translation>
+    </message>
+    <message>
+        <source>Opóźnienie automatycznego załączenia 
+gniazd sterowalnych</source>
+        <translation>Delay before controllable sockets
+switch on automatically</translation>
+    </message>
+    <message>
+        <source>Kalibracja predykcji czasu</source>
+        <translation>Runtime prediction calibration</translation>
+    </message>
+    <message>
+        <source>Anuluj trwające testy baterii</source>
+        <translation>Abort running battery tests</translation>
+    </message>
+    <message>
+        <source>Ręczny BYPASS</source>
+        <translation>Manual bypass</translation>
+    </message>
+    <message>
+        <source>Przejdź na BYPASS w przeciążeniu</source>
+        <translation>Switch to bypass on overload</translation>
+    </message>
+    <message>
+        <source>Tryb stabilizacji częstotliwości 
+wyjściowej</source>
+        <translation>Output frequency
+stabilization mode</translation>
+    </message>
+    <message>
+        <source>Częstotliwość napięcia wyjściowego</source>
+        <translation>Output voltage frequency</translation>
+    </message>
+    <message>
+        <source>Nazwa urządzenia</source>
+        <translation>Device name</translation>
+    </message>
+    <message>
+        <source>Lokalizacja urządzenia</source>
+        <translation>Device location</translation>
+    </message>
+    <message>
+        <source>Osoba kontaktowa</source>
+        <translation>Contact person</translation>
+    </message>
+    <message>
+        <source>Rozszerzone progi przełączania zasilacza</source>
+        <translation>Extended transfer thresholds</translation>
+    </message>
+    <message>
+        <source>Anuluj odliczanie przejścia do trybu oczekiwania</source>
+        <translation>Cancel the countdown to standby</translation>
+    </message>
+    <message>
+        <source>Przywróć domyślne ustawienia UPS</source>
+        <translation>Restore default UPS settings</translation>
+    </message>
+    <message>
+        <source>Maksymalny dopuszczalny czas pracy rezerwowej</source>
+        <translation>Maximum permitted time on battery</translation>
+    </message>
+    <message>
+        <source>Włącz ograniczenie maksymalnego czasu pracy w trybie bateryjnym</source>
+        <translation>Limit the maximum time on battery</translation>
+    </message>
+    <message>
+        <source>Wejście bezpotencjałowe - funkcja</source>
+        <translation>Dry contact input - function</translation>
+    </message>
+    <message>
+        <source>Wyjście bezpotencjałowe - funkcja</source>
+        <translation>Dry contact output - function</translation>
+    </message>
+    <message>
+        <source>Sprawdzaj kolejność L i N na wejściu UPS</source>
+        <translation>Check L and N order at the UPS input</translation>
+    </message>
+    <message>
+        <source>Konfiguracja wejścia EPO</source>
+        <translation>EPO input setup</translation>
+    </message>
+    <message>
+        <source>Niestandardowy moduł bateryjny - korzystaj
+z deklarowanej pojemności</source>
+        <translation>Non-standard battery module -
+use the declared capacity</translation>
+    </message>
+    <message>
+        <source>Automatyczne wyłączanie wyświetlacza LCD</source>
+        <translation>Turn the LCD off automatically</translation>
+    </message>
+    <message>
+        <source>Konfiguracja wejścia bezpotencjałowego</source>
+        <translation>Dry contact input setup</translation>
+    </message>
+    <message>
+        <source>Konfiguracja wyjścia bezpotencjałowego</source>
+        <translation>Dry contact output setup</translation>
+    </message>
+    <message>
+        <source>Predykcja czasu autonomii</source>
+        <translation>Runtime prediction</translation>
+    </message>
+    <message>
+        <source>Restart UPS po przeciążeniu</source>
+        <translation>Restart the UPS after overload</translation>
+    </message>
+    <message>
+        <source>Sterowanie gniazdami wyjściowymi PDU</source>
+        <translation>PDU output socket control</translation>
+    </message>
+    <message>
+        <source>Konfiguracja wejścia (liczba faz)</source>
+        <translation>Input setup (number of phases)</translation>
+    </message>
+    <message>
+        <source>Konfiguracja wyjścia (liczba faz)</source>
+        <translation>Output setup (number of phases)</translation>
+    </message>
+    <message>
+        <source>Bypass - tolerancja częstotliwości</source>
+        <translation>Bypass - frequency tolerance</translation>
+    </message>
+    <message>
+        <source>Opuść Ręczny BYPASS</source>
+        <translation>Leave manual bypass</translation>
+    </message>
+    <message>
+        <source>Uruchom poprzez Bypass</source>
+        <translation>Start through bypass</translation>
+    </message>
+    <message>
+        <source>Ignoruj zdalne komendy wymuszenia
+Trybu Oczekiwania/Restartu</source>
+        <translation>Ignore remote commands to force
+standby or restart</translation>
+    </message>
+    <message>
+        <source>W przypadku niepowodzenia testu baterii UPS będzie wydawał sygnał dźwiękowy co 2 sekundy. Jeżeli stan baterii będzie krytyczny UPS zasygnalizuje to świeceniem czerwonej diody.</source>
+        <translation>If the battery test fails, the UPS will beep every 2 seconds. If the battery is in a critical state, the UPS will show it with a red light.</translation>
+    </message>
+    <message>
+        <source>Nastąpi awaryjne wyłączenie zasilania (EPO). Czy kontynuować?</source>
+        <translation>This will trigger an emergency power off (EPO). Do you want to continue?</translation>
+    </message>
+    <message>
+        <source>Nastąpi reset licznika zużycia akumulatora.
+Funkcję resetu należy wykonać jednorazowo, niezwłocznie po każdej wymianie akumulatora w UPS. Czy kontynuować?</source>
+        <translation>The battery wear counter will be reset.
+Reset it once, right after each replacement of the battery in the UPS. Do you want to continue?</translation>
+    </message>
+    <message>
+        <source>Wprowadzono nieprawidłowy adres IP</source>
+        <translation>The IP address is not valid</translation>
+    </message>
+    <message>
+        <source>Hasło i nazwa użytkownika nie mogą być dłuższe niż 30 znaków</source>
+        <translation>The password and the user name cannot be longer than 30 characters</translation>
+    </message>
+    <message>
+        <source>Hasło lub nazwa użytkownika zawiera niedozwolone znaki</source>
+        <translation>The password or the user name contains characters that are not allowed</translation>
+    </message>
+    <message>
+        <source>Dopuszczalny zakres to 0 - 65534</source>
+        <translation>The permitted range is 0 - 65534</translation>
+    </message>
+    <message>
+        <source>Zmiany parametrów &quot;Adres IP&quot;, &quot;Maska podsieci&quot;, &quot;Brama domyślna&quot; oraz &quot;DHCP włączony&quot; zostaną zastosowane po wyłączeniu i ponownym uruchomieniu karty sieciowej (opcja &quot;Resetuj ethernet&quot;)</source>
+        <translation>Changes to &quot;IP address&quot;, &quot;Subnet mask&quot;, &quot;Default gateway&quot; and &quot;DHCP on&quot; take effect once the network card has been switched off and started again (option &quot;Reset Ethernet&quot;)</translation>
+    </message>
+</context>
+<context>
     <name>UpdateChecker</name>
     <message>
         <source>Serwer nie przysłał całego pliku (HTTP %1)</source>
