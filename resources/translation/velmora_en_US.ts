@@ -2944,5 +2944,13 @@ Do you want to add a new UPS now?
         <source>W celu przeprowadzenia aktualizacji należy uruchomić ControlPanel jako użytkownik o podwyższonych uprawnieniach</source>
         <translation>To install the update, run ControlPanel as a user with elevated privileges</translation>
     </message>
+    <message>
+        <source>Uwaga</source>
+        <translation>Attention</translation>
+    </message>
+    <message>
+        <source>Urządzenie zostało usunięte lub nie jest już wybrane. Zmiana nie została wysłana.</source>
+        <translation>The device was removed or is no longer selected. The change was not sent.</translation>
+    </message>
 </context>
 </TS>

@@ -177,6 +177,10 @@ void VelmoraWindow::connectTree()
 
 void VelmoraWindow::connectForm()
 {
+    connect(ui->upsConfigurationButton, &QPushButton::clicked, this,
+            &VelmoraWindow::upsConfigurationButtonClickHandler);
+    connect(ui->actionUpsConfiguration, &QAction::triggered, this,
+            &VelmoraWindow::upsConfigurationButtonClickHandler);
     connect(ui->exInfoButton, &QPushButton::clicked, this,
             &VelmoraWindow::extendInformationButtonClickHandler);
     connect(ui->actionExtendInformation, &QAction::triggered, this,

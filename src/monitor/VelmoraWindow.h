@@ -29,6 +29,7 @@ class QLocalServer;
 class QMenu;
 class QMovie;
 class UpdateChecker;
+class UPSConfigurationWindow;
 class UpsEventsWindow;
 class UpsTreeElement;
 class UpsTreeWidget;
@@ -63,6 +64,7 @@ signals:
 
 public slots:
     void applicationConfigurationButtonClickHandler();
+    void upsConfigurationButtonClickHandler();
     void extendInformationButtonClickHandler();
     void aboutButtonClickHandler();
     void upsEventsButtonClickHandler();
@@ -134,6 +136,7 @@ private:
 
     void editPhysicalDevice(const Velmora::Utils::Ups& ups);
     void editVirtualDevice(const UpsTreeElement& element);
+    void saveConfiguration(const UPSConfigurationWindow& dialog);
 
     void setCurrentDevice(UpsTreeElement* element);
     void setUpsModelText(const QString& text);
@@ -157,6 +160,7 @@ private:
     std::unique_ptr<Velmora::UpsSocketController> socketController;
 
     // Null unless the dialog is open; replies that concern it are handed on.
+    QPointer<UPSConfigurationWindow> upsConfigurationWindow;
     QPointer<LogiInWindow> logInWindow;
     QPointer<PasswordChangeWindow> passwordChangeWindow;
     QPointer<ApplicationConfigurationWindow> applicationConfigurationWindow;
@@ -193,6 +197,8 @@ private:
     Velmora::Utils::Ups currentDevice; ///< outlives rebuilds of the tree and so carries the selection
     QList<Velmora::Utils::SerialPort> m_serialPorts;
     QMap<QString, QString> lastDeviceState;
+    /// Settings that were sent and of which no report has come since.
+    QMap<QString, QString> pendingConfiguration;
 
     // The last view of a report, and what it was made from.
     QMap<QString, QString> m_viewReport;

@@ -10,17 +10,28 @@
 #include "app/ControlPanelConfiguration.h"
 #include "devices/AddUpsWindow.h"
 #include "devices/AddVirtualUpsWindow.h"
+#include "devices/UPSConfigurationWindow.h"
 #include "devices/core/ModelRules.h"
+#include "link/Sleep.h"
+#include "link/TextHelpers.h"
 #include "link/UpsSocketController.h"
 #include "monitor/ExtendInformationWindow.h"
 #include "monitor/UpsEventsWindow.h"
 #include "monitor/UpsTreeElement.h"
 #include "monitor/UpsTreeWidget.h"
+#include "monitor/widgets/MessageBox.h"
 #include "monitor/widgets/ModalDialog.h"
 
 using Velmora::runModal;
 using Velmora::UpsSocketController;
 using Velmora::Utils::Ups;
+
+namespace {
+
+/// What a device needs to apply a setting, in milliseconds.
+constexpr unsigned long applyTime = 2000;
+
+} // namespace
 
 // The dialogs: made, wired and run.
 
@@ -128,6 +139,34 @@ void VelmoraWindow::editVirtualDevice(const UpsTreeElement& element)
     dialog->displayAvailableParallelDevices(getAllUps());
     // From here on the tree may be built anew, and `element` with it.
     runModal(dialog);
+}
+
+void VelmoraWindow::upsConfigurationButtonClickHandler()
+{
+    auto* dialog = new UPSConfigurationWindow(currentDevice, this);
+    if (currentDevice.model_name.contains(QLatin1String("Borel"), Qt::CaseInsensitive))
+        dialog->setWindowTitle(tr("Konfiguracja agregatu"));
+    socketController->getUpsConfiguration();
+    runModal(upsConfigurationWindow, dialog,
+             [this](const UPSConfigurationWindow& accepted) { saveConfiguration(accepted); });
+}
+
+void VelmoraWindow::saveConfiguration(const UPSConfigurationWindow& dialog)
+{
+    // Settings go to whichever device is selected, and that may have changed with the tree.
+    if (dialog.ups().id != currentDevice.id) {
+        Velmora::Utils::displayMsgBox(
+            tr("Uwaga"),
+            tr("Urządzenie zostało usunięte lub nie jest już wybrane. Zmiana nie została wysłana."));
+        return;
+    }
+    pendingConfiguration = dialog.getConfiguration();
+    QMap<QString, QString> escaped = pendingConfiguration;
+    for (QString& value : escaped)
+        Velmora::Utils::replaceXmlSpecialCharacters(value);
+    socketController->setUpsConfiguration(escaped);
+    Velmora::Utils::msleep(applyTime);
+    socketController->getUpsConfiguration();
 }
 
 void VelmoraWindow::extendInformationButtonClickHandler()

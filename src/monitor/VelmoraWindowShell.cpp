@@ -4,6 +4,7 @@
 
 #include "admin/ApplicationConfigurationWindow.h"
 #include "app/ControlPanelConfiguration.h"
+#include "devices/UPSConfigurationWindow.h"
 #include "link/UpsSocketController.h"
 #include "monitor/UpsTreeWidget.h"
 #include "monitor/core/PanelIdentity.h"
@@ -88,6 +89,8 @@ void VelmoraWindow::disableAdministratorButtons()
     setWindowTitle(applicationTitle);
     if (applicationConfigurationWindow)
         applicationConfigurationWindow->setEnabledButtons(false);
+    if (upsConfigurationWindow)
+        upsConfigurationWindow->setEnabledButtons(false);
 }
 
 void VelmoraWindow::connectingInProgress()

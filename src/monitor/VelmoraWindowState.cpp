@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "monitor/VelmoraWindow.h"
 
+#include "devices/UPSConfigurationWindow.h"
 #include "devices/core/ModelRules.h"
 #include "link/UpsSocketController.h"
 #include "monitor/DeviceStatePanel.h"
@@ -92,6 +93,11 @@ void VelmoraWindow::upsConfiguration(const QMap<QString, QString>& parameters)
         setEnabledStatus(true, widgets);
         setEnabledStatus(true, actions);
     }
+    // The dialog's device may have gone and the report be another one's.
+    if (pendingConfiguration.isEmpty() && upsConfigurationWindow &&
+        upsConfigurationWindow->ups().id == currentDevice.id)
+        upsConfigurationWindow->setConfiguration(parameters);
+    pendingConfiguration.clear();
 }
 
 void VelmoraWindow::upsConnected()
