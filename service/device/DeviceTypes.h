@@ -60,9 +60,8 @@ struct DeviceState
 struct SettingOutcome
 {
     bool accepted = false;
-    bool lasting = false;          ///< false for a command, which leaves no value behind
-    bool restoredDefaults = false; ///< every lasting setting went back to its default
-    QString reason;                ///< why it was not accepted
+    QString reason;    ///< why it was not accepted
+    KeyValues lasting; ///< all settings of the device that are now other than it came with
 };
 
 /// A shutdown that is coming; negative seconds withdraw it.

@@ -184,14 +184,9 @@ void applySetting(const RequestScope& scope, int device, const Element& setting)
         scope.refuse(QStringLiteral("Setting %1 was not taken: %2.").arg(setting.name, outcome.reason));
         return;
     }
-    if (!outcome.lasting && !outcome.restoredDefaults)
-        return;
-    static_cast<void>(scope.change([&](StoredData& changed) {
-        if (outcome.restoredDefaults)
-            changed.settings.remove(device);
-        else
-            changed.settings[device].insert(setting.name, setting.text);
-    }));
+    if (outcome.lasting != scope.store().data().settings.value(device))
+        static_cast<void>(
+            scope.change([&](StoredData& changed) { changed.settings[device] = outcome.lasting; }));
 }
 
 void setConfiguration(const RequestScope& scope, const Element& request)

@@ -14,6 +14,9 @@ QString refusal(const SettingSpec& spec, const QString& value)
 {
     switch (spec.kind) {
     case SettingKind::Text:
+        // A panel leaves out a setting that is reported empty, and so could never fill it again.
+        if (value.isEmpty())
+            return QStringLiteral("empty");
         return value.size() <= maximumTextLength
                    ? QString()
                    : QStringLiteral("longer than %1 characters").arg(maximumTextLength);
@@ -36,13 +39,13 @@ QString refusal(const SettingSpec& spec, const QString& value)
                                    : QStringLiteral("not one of ") % options.join(QLatin1String(", "));
 }
 
+} // namespace
+
 bool restoresDefaults(const QString& key)
 {
     return key == QLatin1String("restore_default_settings_ups") ||
            key == QLatin1String("reset_control_parameters");
 }
-
-} // namespace
 
 DeviceSettings::DeviceSettings(const QVector<SettingSpec>& specs, const KeyValues& defaults,
                                const KeyValues& values)
@@ -77,14 +80,21 @@ SettingOutcome DeviceSettings::apply(const QString& key, const QString& value)
     }
     outcome.reason = refusal(*spec, value);
     outcome.accepted = outcome.reason.isEmpty();
-    outcome.lasting = outcome.accepted && spec->kind != SettingKind::Command;
-    if (outcome.lasting)
+    if (outcome.accepted && spec->kind != SettingKind::Command)
         m_values.insert(key, value);
-    if (outcome.accepted && value == QLatin1String("1") && restoresDefaults(key)) {
+    if (outcome.accepted && value == QLatin1String("1") && restoresDefaults(key))
         m_values = m_defaults;
-        outcome.restoredDefaults = true;
-    }
     return outcome;
+}
+
+KeyValues DeviceSettings::changedValues() const
+{
+    KeyValues changed;
+    for (auto entry = m_values.cbegin(); entry != m_values.cend(); ++entry) {
+        if (m_defaults.value(entry.key()) != entry.value())
+            changed.insert(entry.key(), entry.value());
+    }
+    return changed;
 }
 
 void DeviceSettings::set(QLatin1String key, const QString& value)

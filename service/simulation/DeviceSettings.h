@@ -27,6 +27,9 @@ struct SettingSpec
     double maximum;
 };
 
+/// Whether the command brings back what the device came with.
+[[nodiscard]] bool restoresDefaults(const QString& key);
+
 /// The settings of one device and their present values.
 class DeviceSettings final
 {
@@ -37,7 +40,9 @@ public:
     DeviceSettings(const QVector<SettingSpec>& specs, const KeyValues& defaults, const KeyValues& values);
 
     [[nodiscard]] KeyValues configuration() const;
+    /// Leaves it to the caller to tell what lasts of it.
     [[nodiscard]] SettingOutcome apply(const QString& key, const QString& value);
+    [[nodiscard]] KeyValues changedValues() const;
     void set(QLatin1String key, const QString& value);
 
     [[nodiscard]] bool offers(QLatin1String key) const;

@@ -68,6 +68,8 @@ SettingOutcome SimulatedDevice::applySetting(const QString& key, const QString& 
     if (outcome.accepted) {
         const QByteArray name = key.toLatin1();
         settingApplied(QLatin1String(name), value);
+        // A command can move settings too.
+        outcome.lasting = m_settings.changedValues();
     }
     return outcome;
 }

@@ -64,8 +64,7 @@ SimulatedUps::SimulatedUps(const DeviceSetup& setup)
         m_load.append(Wander(load, 6.0));
         m_input.append(Wander(profile().inputVoltage + phase, 3.5));
     }
-    m_switchedOff = settings().text(QLatin1String("ups_active")) == QLatin1String("0") ||
-                    settings().flag(QLatin1String("waiting_force"));
+    m_switchedOff = isSetToOff();
     if (!profile().steady)
         moveMeasuredValues();
 }
@@ -278,17 +277,28 @@ void SimulatedUps::switchOn()
     settings().set(QLatin1String("waiting_force"), QStringLiteral("0"));
 }
 
+void SimulatedUps::switchOff()
+{
+    m_switchedOff = true;
+    settings().set(QLatin1String("ups_active"), QStringLiteral("0"));
+}
+
+bool SimulatedUps::isSetToOff() const
+{
+    return settings().text(QLatin1String("ups_active")) == QLatin1String("0") ||
+           settings().flag(QLatin1String("waiting_force"));
+}
+
 void SimulatedUps::settingApplied(QLatin1String key, const QString& value)
 {
-    const bool set = value == QLatin1String("1");
-    if (key == QLatin1String("ups_active") || key == QLatin1String("waiting_force")) {
-        m_switchedOff = set == (key == QLatin1String("waiting_force"));
+    if (key == QLatin1String("ups_active") || key == QLatin1String("waiting_force"))
+        m_switchedOff = isSetToOff();
+    if (value != QLatin1String("1"))
         return;
-    }
-    if (!set)
-        return;
-    if (key == QLatin1String("remote_turn_off_ups") || key == QLatin1String("epo"))
-        m_switchedOff = true;
+    const bool emergency = key == QLatin1String("epo") && !settings().flag(QLatin1String("epo_disabled"));
+    // The defaults do not bring a load back that somebody has switched off.
+    if (key == QLatin1String("remote_turn_off_ups") || emergency || (restoresDefaults(key) && m_switchedOff))
+        switchOff();
     else if (key == QLatin1String("remote_turn_on_ups"))
         switchOn();
     else if (key == QLatin1String("batt_test") || key == QLatin1String("battery_short_test"))

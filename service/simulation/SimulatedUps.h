@@ -39,6 +39,8 @@ private:
     void recordChanges(const QDateTime& when);
     void startTest(int seconds);
     void switchOn();
+    void switchOff();
+    [[nodiscard]] bool isSetToOff() const;
 
     Random m_random;
     QVector<Wander> m_load;

@@ -410,7 +410,9 @@ void ServedRequestsTest::settingIsFollowedAndKept()
     QCOMPARE(text(settings, "sound_alarm"), QByteArray("0"));
     m_client->send("set_ups_configuration", "<reset_control_parameters>1</reset_control_parameters>");
     m_client->send("set_ups_configuration", "<output_voltage>225</output_voltage>");
+    m_client->send("set_ups_configuration", "<remote_turn_off_ups>1</remote_turn_off_ups>");
     restart();
+    QCOMPARE(text(configuration("2"), "ups_active"), QByteArray("0"));
     QCOMPARE(text(configuration("2"), "output_voltage"), QByteArray("225"));
     QCOMPARE(text(configuration("2"), "sound_alarm"), QByteArray("1"));
 }
