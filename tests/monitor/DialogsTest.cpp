@@ -8,6 +8,7 @@
 #include "admin/SmtpTestWindow.h"
 #include "admin/UpdateDownloadWindow.h"
 #include "app/Startup.h"
+#include "devices/UPSConfigurationWindow.h"
 #include "link/UpsSocketController.h"
 #include "monitor/ExtendInformationWindow.h"
 #include "monitor/UpsEventsWindow.h"
@@ -54,6 +55,16 @@ std::unique_ptr<QDialog> events(const char* history)
     return dialog;
 }
 
+std::unique_ptr<QDialog> everySetting()
+{
+    QMap<QString, QString> settings;
+    for (const Velmora::UpsConfiguration& setting : Velmora::upsConfigurationCatalogue())
+        settings.insert(setting.key, QStringLiteral("1;1;2"));
+    auto dialog = std::make_unique<UPSConfigurationWindow>(Velmora::Utils::Ups(), nullptr);
+    dialog->setConfiguration(settings);
+    return dialog;
+}
+
 std::unique_ptr<QDialog> serviceAddress(UpsSocketController* link)
 {
     auto dialog = std::make_unique<ConnectWithServiceWindow>(nullptr);
@@ -84,6 +95,7 @@ const DialogRow dialogRows[] = {
     {"mail test", [](auto* /*link*/) { return mailTest(); }},
     {"download of an update", [](auto* /*link*/) { return std::make_unique<UpdateDownloadWindow>(nullptr); }},
     {"about", [](auto* /*link*/) { return std::make_unique<AboutWindow>(nullptr); }},
+    {"device settings", [](auto* /*link*/) { return everySetting(); }},
     {"extended information of a UPS", [](auto* /*link*/) { return extendedInformation(false); }},
     {"extended information of a genset", [](auto* /*link*/) { return extendedInformation(true); }},
     {"events before the first history", [](auto* /*link*/) { return events(""); }},
@@ -91,9 +103,10 @@ const DialogRow dialogRows[] = {
 };
 
 /// Texts that read the same in both languages.
-const QRegularExpression sameInBoth(
-    QStringLiteral("^(OK|D\\+|Port|TLS|SSL|\\S+example\\.com|Velmora Professional|© .*|Qt \\S+|zlib|Boost|"
-                   "GNU LGPL .*|.* License.*)$"));
+const QRegularExpression sameInBoth(QStringLiteral(
+    "^(OK|Bypass|Dummy \\d|VAC rms|Hz|Ah|min|godz|dni|brak|D\\+|Port|TLS|SSL|\\S+example\\.com|Velmora "
+    "Professional|© .*|Qt \\S+|zlib|Boost|"
+    "GNU LGPL .*|.* License.*)$"));
 
 QStringList& warnings()
 {
