@@ -41,7 +41,7 @@ bool ReferenceService::listen(const QHostAddress& address, QString& reason)
                      .arg(detail);
         return false;
     }
-    if (!m_discovery.listen(detail))
+    if (!m_discovery.listen(address, detail))
         qCWarning(serviceLog).noquote()
             << "cannot hear discovery probes on port" << Velmora::discoveryPort << detail;
     QObject::connect(&m_discovery, &DiscoveryResponder::probeReceived, m_server.get(),

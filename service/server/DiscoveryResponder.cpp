@@ -5,6 +5,7 @@
 #include "link/ServiceEndpoint.h"
 
 #include <QNetworkDatagram>
+#include <QNetworkInterface>
 #include <QNetworkProxy>
 
 namespace Velmora::Service {
@@ -20,31 +21,56 @@ constexpr int largestProbe = 16;
 DiscoveryResponder::DiscoveryResponder(QObject* parent)
     : QObject(parent)
 {
-    m_socket.setProxy(QNetworkProxy::NoProxy);
-    connect(&m_socket, &QUdpSocket::readyRead, this, &DiscoveryResponder::readProbes);
+    for (QUdpSocket* socket : {&m_everybody, &m_own}) {
+        socket->setProxy(QNetworkProxy::NoProxy);
+        connect(socket, &QUdpSocket::readyRead, this, [this, socket] { readProbes(*socket); });
+    }
 }
 
 DiscoveryResponder::~DiscoveryResponder() = default;
 
-bool DiscoveryResponder::listen(QString& reason)
+bool DiscoveryResponder::listen(const QHostAddress& address, QString& reason)
 {
-    // Only a socket on all addresses hears broadcasts; the port is shared with services on other addresses.
-    if (m_socket.bind(QHostAddress::AnyIPv4, Velmora::discoveryPort,
-                      QAbstractSocket::ShareAddress | QAbstractSocket::ReuseAddressHint))
-        return true;
-    reason = m_socket.errorString();
-    return false;
+    m_address = address;
+    const bool everywhere = address == QHostAddress::Any || address == QHostAddress::AnyIPv4;
+    for (QUdpSocket* socket : {&m_everybody, &m_own}) {
+        if (socket == &m_own && everywhere)
+            break;
+        const QHostAddress bound = socket == &m_own ? address : QHostAddress(QHostAddress::AnyIPv4);
+        if (!socket->bind(bound, Velmora::discoveryPort,
+                          QAbstractSocket::ShareAddress | QAbstractSocket::ReuseAddressHint)) {
+            reason = socket->errorString();
+            return false;
+        }
+    }
+    return true;
 }
 
-void DiscoveryResponder::readProbes()
+void DiscoveryResponder::readProbes(QUdpSocket& socket)
 {
-    bool probed = false;
-    while (m_socket.hasPendingDatagrams())
-        probed = m_socket.receiveDatagram(largestProbe).data() == "5" || probed;
-    if (!probed || (m_sinceProbe.isValid() && m_sinceProbe.elapsed() < quietMilliseconds))
+    QSet<QHostAddress> destinations;
+    while (socket.hasPendingDatagrams()) {
+        const QNetworkDatagram datagram = socket.receiveDatagram(largestProbe);
+        if (datagram.data() == "5")
+            destinations.insert(datagram.destinationAddress());
+    }
+    if (destinations.isEmpty() || (m_sinceProbe.isValid() && m_sinceProbe.elapsed() < quietMilliseconds) ||
+        (&socket == &m_everybody && !concernsUs(destinations)))
         return;
     m_sinceProbe.start();
     emit probeReceived();
+}
+
+bool DiscoveryResponder::concernsUs(const QSet<QHostAddress>& destinations) const
+{
+    // Without a socket of its own the service listens on all addresses.
+    QSet<QHostAddress> ours{m_address, QHostAddress(), QHostAddress(QHostAddress::Broadcast)};
+    const QList<QNetworkInterface> interfaces = QNetworkInterface::allInterfaces();
+    for (const QNetworkInterface& interface : interfaces) {
+        for (const QNetworkAddressEntry& entry : interface.addressEntries())
+            ours.insert(entry.broadcast());
+    }
+    return m_own.state() != QAbstractSocket::BoundState || ours.intersects(destinations);
 }
 
 } // namespace Velmora::Service

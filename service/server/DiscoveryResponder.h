@@ -3,12 +3,15 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QHostAddress>
 #include <QObject>
+#include <QSet>
 #include <QUdpSocket>
 
 namespace Velmora::Service {
 
-/// Hears the broadcast with which a panel looks for network clients.
+/// Hears the probes with which panels look for network clients: broadcasts on any interface and what is sent
+/// to the service's own address. Services on other addresses of this machine hear theirs beside it.
 class DiscoveryResponder final : public QObject
 {
     Q_OBJECT
@@ -19,15 +22,18 @@ public:
     ~DiscoveryResponder() override;
 
     /// False and a reason if the port cannot be had.
-    [[nodiscard]] bool listen(QString& reason);
+    [[nodiscard]] bool listen(const QHostAddress& address, QString& reason);
 
 signals:
     void probeReceived();
 
 private:
-    void readProbes();
+    void readProbes(QUdpSocket& socket);
+    [[nodiscard]] bool concernsUs(const QSet<QHostAddress>& destinations) const;
 
-    QUdpSocket m_socket;
+    QHostAddress m_address;
+    QUdpSocket m_everybody; ///< on all addresses, since no other socket hears broadcasts
+    QUdpSocket m_own; ///< on the service's address, so that the system gives what comes there to nobody else
     QElapsedTimer m_sinceProbe;
 };
 
