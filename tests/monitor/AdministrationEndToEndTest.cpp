@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Velmora developers
 // SPDX-License-Identifier: MIT
 #include "admin/ConnectWithServiceWindow.h"
-#include "admin/LogiInWindow.h"
 #include "admin/PasswordChangeWindow.h"
 #include "app/ControlPanelConfiguration.h"
 #include "monitor/ExtendInformationWindow.h"
+#include "monitor/ServiceRun.h"
 #include "monitor/UpsEventsWindow.h"
-#include "monitor/WindowFixture.h"
 #include "support/ModalDriver.h"
 
 #include <QApplication>
@@ -16,7 +15,6 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -24,7 +22,6 @@ using namespace Velmora::Tests;
 
 namespace {
 
-constexpr int patience = 10000;
 const QString otherAddress = QStringLiteral("127.0.0.44");
 const QString defaultPassword = QStringLiteral("Opiekunsystem");
 const QString newPassword = QStringLiteral("Zmienione-hasło");
@@ -66,13 +63,9 @@ private slots:
     void panelMovesToAnotherService();
 
 private:
-    [[nodiscard]] bool startService(QProcess& service, const QString& address, const QStringList& options);
     [[nodiscard]] bool openPanel();
-    [[nodiscard]] bool select(const char* name) const;
     void trigger(const char* action) const { panel->find<QAction>(action)->trigger(); }
     [[nodiscard]] bool isAdministrator() const { return panel->find<QAction>("actionLogout")->isEnabled(); }
-    /// Logs in and tells what the panel said to it.
-    [[nodiscard]] QStringList logIn(const QString& password) const;
 
     QTemporaryDir m_folder;
     std::unique_ptr<WindowFixture> panel;
@@ -83,60 +76,16 @@ void AdministrationEndToEndTest::cleanup()
     panel.reset();
 }
 
-bool AdministrationEndToEndTest::startService(QProcess& service, const QString& address,
-                                              const QStringList& options)
-{
-    service.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    service.start(QStringLiteral(VELMORA_SERVICE_PROGRAM),
-                  QStringList{QStringLiteral("--listen"), address, QStringLiteral("--log-level"),
-                              QStringLiteral("error")} +
-                      options);
-    return service.waitForStarted() && service.waitForReadyRead(patience) &&
-           service.readLine().contains(" listens on ");
-}
-
 bool AdministrationEndToEndTest::openPanel()
 {
     panel = std::make_unique<WindowFixture>();
-    panel->window = std::make_unique<VelmoraWindow>();
-    panel->window->show();
-    return QTest::qWaitFor([this] { return panel->row(QStringLiteral("Production hall")); }, patience);
-}
-
-bool AdministrationEndToEndTest::select(const char* name) const
-{
-    UpsTreeElement* row = panel->row(QString::fromUtf8(name));
-    if (!row)
-        return false;
-    panel->tree()->setCurrentItem(row);
-    // Two reports, since the first one may still be of the device that was selected before.
-    for (int i = 0; i < 2; ++i) {
-        QSignalSpy reports(panel->link(), &Velmora::UpsSocketController::upsDeviceState);
-        if (!reports.wait(patience))
-            return false;
-    }
-    return panel->find<QPushButton>("exInfoButton")->isEnabled();
-}
-
-QStringList AdministrationEndToEndTest::logIn(const QString& password) const
-{
-    QStringList said{QStringLiteral("nothing happened")};
-    const auto enter = [&](LogiInWindow& dialog) {
-        typeInto(dialog, "passwordEdit", password);
-        pressOk(dialog);
-        (void)QTest::qWaitFor([&] {
-            said = takeMessages();
-            return dialog.isHidden() || !said.isEmpty();
-        });
-    };
-    const bool came = driveModal<LogiInWindow>([this] { trigger("actionActAsAdministrator"); }, enter);
-    return came ? said : QStringList(QStringLiteral("no dialog"));
+    return openOnService(*panel, QStringLiteral("Production hall"));
 }
 
 void AdministrationEndToEndTest::everyValueAndTheHistoryCanBeRead()
 {
     QProcess service;
-    QVERIFY(startService(service, ScriptedService::testAddress(), {}));
+    QVERIFY(startService(service));
     QVERIFY(openPanel());
     QMap<QString, QString> report;
     connect(panel->link(), &Velmora::UpsSocketController::upsDeviceState, this,
@@ -156,7 +105,7 @@ void AdministrationEndToEndTest::everyValueAndTheHistoryCanBeRead()
             });
     };
 
-    QVERIFY(select("Production hall"));
+    QVERIFY(selectDevice(*panel, QStringLiteral("Production hall")));
     QVERIFY(readAll(false, {{QStringLiteral("Numer fabryczny UPS"), "T3V-100442 "},
                             {QStringLiteral("Napięcie wejściowe"), "[\\d.]+/[\\d.]+/[\\d.]+ V"},
                             {QStringLiteral("Obciążenie"), "\\d+/\\d+/\\d+ %"}}));
@@ -171,13 +120,12 @@ void AdministrationEndToEndTest::everyValueAndTheHistoryCanBeRead()
             }
         }));
 
-    QVERIFY(select("Backup genset"));
+    QVERIFY(selectDevice(*panel, QStringLiteral("Backup genset")));
     QVERIFY(readAll(true, {{QStringLiteral("Napięcie fazowe w sieci elektrycznej"), "[\\d./]+ V"},
                            {QStringLiteral("Numer seryjny sterownika"), "15037421 "},
                            {QStringLiteral("Poziom paliwa"), "\\d+ %"}}));
     QCOMPARE(panel->shown("upsEventsButton"), QStringLiteral("-")); // only three-phase devices keep a history
-    service.terminate();
-    QVERIFY(service.waitForFinished());
+    QVERIFY(stopService(service));
 }
 
 void AdministrationEndToEndTest::changedPasswordHoldsAcrossRestarts()
@@ -185,9 +133,9 @@ void AdministrationEndToEndTest::changedPasswordHoldsAcrossRestarts()
     const QStringList state{QStringLiteral("--state"), m_folder.filePath(QStringLiteral("state.json"))};
     {
         QProcess service;
-        QVERIFY(startService(service, ScriptedService::testAddress(), state));
+        QVERIFY(startService(service, state));
         QVERIFY(openPanel());
-        QCOMPARE(logIn(defaultPassword), QStringList());
+        QCOMPARE(logIn(*panel, defaultPassword), QStringList());
         QVERIFY(isAdministrator());
         QVERIFY(driveModal<PasswordChangeWindow>([this] { trigger("actionChangePassword"); },
                                                  [](PasswordChangeWindow& dialog) {
@@ -199,26 +147,24 @@ void AdministrationEndToEndTest::changedPasswordHoldsAcrossRestarts()
                                                  }));
         QCOMPARE(takeMessages(), QStringList(QStringLiteral("Zmiana hasła|Hasło zostało zmienione")));
         panel.reset();
-        service.terminate();
-        QVERIFY(service.waitForFinished());
+        QVERIFY(stopService(service));
     }
     QProcess service;
-    QVERIFY(startService(service, ScriptedService::testAddress(), state));
+    QVERIFY(startService(service, state));
     QVERIFY(openPanel());
     QVERIFY(!isAdministrator());
     QCOMPARE(
-        logIn(defaultPassword),
+        logIn(*panel, defaultPassword),
         QStringList(QStringLiteral("Nieprawidłowe hasło|Podane hasło Administratora jest nieprawidłowe")));
     QVERIFY(!isAdministrator());
-    QCOMPARE(logIn(newPassword), QStringList());
+    QCOMPARE(logIn(*panel, newPassword), QStringList());
     QVERIFY(isAdministrator());
     // The service takes a change from this administrator.
     panel->tree()->setCurrentItem(panel->row(QStringLiteral("Cash desk")));
     panel->prompts.expect({QStringLiteral("Usuwanie UPS"), QMessageBox::Yes, false, {}});
     panel->window->deleteActionHandler(0);
     QTRY_VERIFY_WITH_TIMEOUT(!panel->row(QStringLiteral("Cash desk")), patience);
-    service.terminate();
-    QVERIFY(service.waitForFinished());
+    QVERIFY(stopService(service));
 }
 
 void AdministrationEndToEndTest::panelMovesToAnotherService()
@@ -227,8 +173,9 @@ void AdministrationEndToEndTest::panelMovesToAnotherService()
     QVERIFY(scenario.open(QIODevice::WriteOnly) && scenario.write(otherSite) > 0 && scenario.flush());
     QProcess first;
     QProcess second;
-    QVERIFY(startService(first, ScriptedService::testAddress(), {}));
-    QVERIFY(startService(second, otherAddress, {QStringLiteral("--scenario"), scenario.fileName()}));
+    QVERIFY(startService(first));
+    QVERIFY(startService(second, {QStringLiteral("--listen"), otherAddress, QStringLiteral("--scenario"),
+                                  scenario.fileName()}));
     QVERIFY(openPanel());
     QTRY_COMPARE_WITH_TIMEOUT(panel->shown("serviceTitle"), QStringLiteral("Połączono z usługą:"), patience);
 
@@ -239,16 +186,13 @@ void AdministrationEndToEndTest::panelMovesToAnotherService()
                                                  }));
     QCOMPARE(panel->shown("serviceTitle"), QStringLiteral("Trwa łączenie z usługą:"));
     QTRY_COMPARE_WITH_TIMEOUT(panel->tree()->allElements().size(), std::size_t(2), patience);
-    QVERIFY(select("Hospital"));
+    QVERIFY(selectDevice(*panel, QStringLiteral("Hospital")));
     QCOMPARE(panel->shown("serviceTitle"), QStringLiteral("Połączono z usługą:"));
     QCOMPARE(panel->shown("serviceAddress"), otherAddress);
     QCOMPARE(panel->shown("modelNameEdit"), QStringLiteral("Tarvex 33 (SNMP)"));
     QVERIFY(matches(panel->shown("loadProgressBar_3"), "\\d+ % \\[\\d+\\]"));
     QCOMPARE(ControlPanelConfiguration().getServerAddress(), otherAddress);
-    for (QProcess* service : {&first, &second}) {
-        service->terminate();
-        QVERIFY(service->waitForFinished());
-    }
+    QVERIFY(stopService(first) && stopService(second));
 }
 
 QTEST_MAIN(AdministrationEndToEndTest)

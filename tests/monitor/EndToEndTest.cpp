@@ -1,34 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Velmora developers
 // SPDX-License-Identifier: MIT
-#include "monitor/WindowFixture.h"
+#include "monitor/ServiceRun.h"
 
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTest>
 
 using namespace Velmora::Tests;
-
-namespace {
-
-constexpr int patience = 10000;
-
-/// Starts the reference service with the scenario that is compiled into it.
-bool start(QProcess& service)
-{
-    service.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    service.start(QStringLiteral(VELMORA_SERVICE_PROGRAM),
-                  {QStringLiteral("--listen"), ScriptedService::testAddress(), QStringLiteral("--seed"),
-                   QStringLiteral("7"), QStringLiteral("--log-level"), QStringLiteral("error")});
-    return service.waitForStarted();
-}
-
-bool stop(QProcess& service)
-{
-    service.terminate();
-    return service.waitForFinished() && service.exitStatus() == QProcess::NormalExit;
-}
-
-} // namespace
 
 /// The real window against the real service, each as it ships, over the real port.
 class EndToEndTest final : public QObject
@@ -42,13 +20,9 @@ private slots:
 void EndToEndTest::panelFollowsTheServiceThroughLossAndReturn()
 {
     QProcess service;
-    QVERIFY(start(service));
+    QVERIFY(startService(service));
     WindowFixture panel;
-    panel.window = std::make_unique<VelmoraWindow>();
-    panel.window->show();
-    // The service may still be on its way to the port when the first attempt is made.
-    if (QTimer* attempts = panel.timer("reconnectTimer"))
-        attempts->setInterval(50);
+    QVERIFY(openOnService(panel, QStringLiteral("Server room")));
     const auto select = [&panel](const char* name) {
         UpsTreeElement* row = panel.row(QString::fromUtf8(name));
         if (row)
@@ -94,20 +68,20 @@ void EndToEndTest::panelFollowsTheServiceThroughLossAndReturn()
     QCOMPARE(panel.shown("deviceText"), QStringLiteral("Połączono z agregatem"));
 
     panel.timer("socketErrorTimer")->setInterval(1);
-    QVERIFY(stop(service));
+    QVERIFY(stopService(service));
     QTRY_COMPARE(panel.shown("serviceTitle"), QStringLiteral("Błąd połączenia z usługą:"));
     for (const UpsTreeElement* row : panel.tree()->allElements())
         QVERIFY(panel.rowShows(row, "red"));
     QCOMPARE(panel.shown("autonomyTimeEdit"), QString());
 
-    QVERIFY(start(service));
+    QVERIFY(startService(service));
     QTRY_VERIFY(panel.timer("reconnectTimer"));
     panel.timer("reconnectTimer")->setInterval(50);
     QTRY_VERIFY_WITH_TIMEOUT(shows("autonomyTimeEdit", "[\\d.]+ l"), patience);
     QCOMPARE(panel.shown("serviceTitle"), QStringLiteral("Połączono z usługą:"));
     QCOMPARE(panel.tree()->currentElement(), panel.row(QStringLiteral("Backup genset")));
     QTRY_VERIFY(panel.rowShows(panel.row(QStringLiteral("Server room A")), "green_m"));
-    QVERIFY(stop(service));
+    QVERIFY(stopService(service));
 }
 
 QTEST_MAIN(EndToEndTest)
