@@ -329,6 +329,53 @@
     </message>
 </context>
 <context>
+    <name>ComputerConfigurationWindow</name>
+    <message>
+        <source>Konfiguracja komputera</source>
+        <translation>Computer settings</translation>
+    </message>
+    <message>
+        <source>Nazwa komputera</source>
+        <translation>Computer name</translation>
+    </message>
+    <message>
+        <source>Adres komputera</source>
+        <translation>Computer address</translation>
+    </message>
+    <message>
+        <source>Hasło</source>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>Grupa</source>
+        <translation>Group</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Anuluj</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Błędny adres komputera</source>
+        <translation>Invalid computer address</translation>
+    </message>
+    <message>
+        <source>Istnieje już komputer o podanym adresie</source>
+        <translation>A computer with this address already exists</translation>
+    </message>
+    <message>
+        <source>Brak odpowiedzi</source>
+        <translation>No response</translation>
+    </message>
+    <message>
+        <source>Netclient jest nieosiągalny</source>
+        <translation>The network client cannot be reached</translation>
+    </message>
+</context>
+<context>
     <name>ConnectWithServiceWindow</name>
     <message>
         <source>Połącz z usługą</source>
@@ -362,6 +409,41 @@ The change holds until the program ends.</translation>
     <message>
         <source>TRYB DEBUGGOWANIA</source>
         <translation>DEBUG MODE</translation>
+    </message>
+</context>
+<context>
+    <name>DiscoverWindow</name>
+    <message>
+        <source>Odkrywanie</source>
+        <translation>Discovery</translation>
+    </message>
+    <message>
+        <source>Komputery zarządzane przez Velmora</source>
+        <translation>Computers managed by Velmora</translation>
+    </message>
+    <message>
+        <source>Nazwa</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Adres</source>
+        <translation>Address</translation>
+    </message>
+    <message>
+        <source>Komputery niezarządzane</source>
+        <translation>Unmanaged computers</translation>
+    </message>
+    <message>
+        <source>Dodaj</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>Nieprawidłowe hasło</source>
+        <translation>Wrong password</translation>
+    </message>
+    <message>
+        <source>Podane hasło Administratora jest nieprawidłowe</source>
+        <translation>The administrator password you entered is incorrect</translation>
     </message>
 </context>
 <context>
@@ -734,6 +816,53 @@ UPS module</translation>
     </message>
 </context>
 <context>
+    <name>GroupConfigurationWindow</name>
+    <message>
+        <source>Konfiguracja grupy</source>
+        <translation>Group settings</translation>
+    </message>
+    <message>
+        <source>Nazwa grupy</source>
+        <translation>Group name</translation>
+    </message>
+    <message>
+        <source>Komputery w grupie</source>
+        <translation>Computers in the group</translation>
+    </message>
+    <message>
+        <source>Dostępne komputery</source>
+        <translation>Available computers</translation>
+    </message>
+    <message>
+        <source>Nazwa</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Adres</source>
+        <translation>Address</translation>
+    </message>
+    <message>
+        <source>◀ Dodaj</source>
+        <translation>◀ Add</translation>
+    </message>
+    <message>
+        <source>Usuń ▶</source>
+        <translation>Remove ▶</translation>
+    </message>
+    <message>
+        <source>Błędna nazwa grupy</source>
+        <translation>Invalid group name</translation>
+    </message>
+    <message>
+        <source>Nazwa grupy zawiera niedozwolone znaki</source>
+        <translation>The group name contains characters that are not allowed</translation>
+    </message>
+    <message>
+        <source>Istnieje już grupa o podanej nazwie</source>
+        <translation>A group with this name already exists</translation>
+    </message>
+</context>
+<context>
     <name>LineEditWidget</name>
     <message>
         <source>Dane niedostępne w wybranym modelu</source>
@@ -809,6 +938,145 @@ UPS module</translation>
         <source>Tryb błędu</source>
         <translation>Fault mode</translation>
     </message>
+    <message>
+        <source>Konfiguracja zdarzeń</source>
+        <translation>Event policy</translation>
+    </message>
+    <message>
+        <source>Konfiguracja elementów sieciowych</source>
+        <translation>Network element settings</translation>
+    </message>
+    <message>
+        <source>Dostępne komputery</source>
+        <translation>Available computers</translation>
+    </message>
+    <message>
+        <source>Nazwa</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Adres</source>
+        <translation>Address</translation>
+    </message>
+    <message>
+        <source>Dodaj</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>Usuń</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>Odkrywanie</source>
+        <translation>Discovery</translation>
+    </message>
+    <message>
+        <source>▼ Do grupy</source>
+        <translation>▼ Add to group</translation>
+    </message>
+    <message>
+        <source>▲ Z grupy</source>
+        <translation>▲ Remove from group</translation>
+    </message>
+    <message>
+        <source>Grupy komputerów</source>
+        <translation>Computer groups</translation>
+    </message>
+    <message>
+        <source>Edytuj</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <source>Zmień hasło komputera</source>
+        <translation>Change computer password</translation>
+    </message>
+    <message>
+        <source>Zdarzenia</source>
+        <translation>Events</translation>
+    </message>
+    <message>
+        <source>Zdarzenie</source>
+        <translation>Event</translation>
+    </message>
+    <message>
+        <source>Ustawienia zdarzenia</source>
+        <translation>Selected event</translation>
+    </message>
+    <message>
+        <source>Zaawansowane</source>
+        <translation>Advanced</translation>
+    </message>
+    <message>
+        <source>Wyświetl komunikat</source>
+        <translation>Show a message</translation>
+    </message>
+    <message>
+        <source>Treść komunikatu</source>
+        <translation>Text of the message</translation>
+    </message>
+    <message>
+        <source>Polecenie systemowe</source>
+        <translation>System command</translation>
+    </message>
+    <message>
+        <source>Konfiguruj</source>
+        <translation>Configure</translation>
+    </message>
+    <message>
+        <source>Wyślij email</source>
+        <translation>Send e-mail</translation>
+    </message>
+    <message>
+        <source>Zamknij system</source>
+        <translation>Shut down the system</translation>
+    </message>
+    <message>
+        <source>Wyjście sterowalne</source>
+        <translation>Switchable output</translation>
+    </message>
+    <message>
+        <source>Zapisz</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Anuluj</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>OutputSocketWindow</name>
+    <message>
+        <source>Wyjście sterowalne</source>
+        <translation>Switchable output</translation>
+    </message>
+    <message>
+        <source>Gniazdo sterowalne</source>
+        <translation>Switchable socket</translation>
+    </message>
+    <message>
+        <source>Sekcja nr 1</source>
+        <translation>Section 1</translation>
+    </message>
+    <message>
+        <source>Włącz</source>
+        <translation>Switch on</translation>
+    </message>
+    <message>
+        <source>Wyłącz</source>
+        <translation>Switch off</translation>
+    </message>
+    <message>
+        <source>Czas po którym polecenie zostanie wykonane</source>
+        <translation>Delay before the command is carried out</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Sekcja nr 2</source>
+        <translation>Section 2</translation>
+    </message>
 </context>
 <context>
     <name>PasswordChangeWindow</name>
@@ -867,6 +1135,49 @@ UPS module</translation>
     <message>
         <source>Usługa Velmora jest nieosiągalna</source>
         <translation>The Velmora service cannot be reached</translation>
+    </message>
+</context>
+<context>
+    <name>PowerOffWindow</name>
+    <message>
+        <source>Zamknij system</source>
+        <translation>Shut down the system</translation>
+    </message>
+    <message>
+        <source>Zamknij System</source>
+        <translation>Shut Down the System</translation>
+    </message>
+    <message>
+        <source>Standardowe zamknięcie systemu</source>
+        <translation>Normal shutdown</translation>
+    </message>
+    <message>
+        <source>Wymuszone zamknięcie systemu</source>
+        <translation>Forced shutdown</translation>
+    </message>
+    <message>
+        <source>Hibernacja</source>
+        <translation>Hibernation</translation>
+    </message>
+    <message>
+        <source>Restart systemu</source>
+        <translation>Restart</translation>
+    </message>
+    <message>
+        <source>Po zamknięciu systemu wyłącz zasilacz UPS</source>
+        <translation>Turn off the UPS after the shutdown</translation>
+    </message>
+    <message>
+        <source>Opóźnienie</source>
+        <translation>Delay</translation>
+    </message>
+    <message>
+        <source>Czas po którym polecenie zostatnie wykonane</source>
+        <translation>Delay before the command is carried out</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
     </message>
 </context>
 <context>
@@ -1548,6 +1859,29 @@ UPS module</translation>
     </message>
 </context>
 <context>
+    <name>SendEmailWindow</name>
+    <message>
+        <source>Wyślij email</source>
+        <translation>Send e-mail</translation>
+    </message>
+    <message>
+        <source>Nadawca (np. Jan Kowalski)</source>
+        <translation>Sender (e.g. John Smith)</translation>
+    </message>
+    <message>
+        <source>Adresat (np. a@example.com; b@example.com)</source>
+        <translation>Recipient (e.g. a@example.com; b@example.com)</translation>
+    </message>
+    <message>
+        <source>Temat wiadomości</source>
+        <translation>Subject</translation>
+    </message>
+    <message>
+        <source>Treść wiadomości</source>
+        <translation>Message text</translation>
+    </message>
+</context>
+<context>
     <name>SmtpTestWindow</name>
     <message>
         <source>Test konfiguracji SMTP</source>
@@ -1613,6 +1947,45 @@ serial number</translation>
     <message>
         <source>Wprowadzono nieprawidłowy adres IP</source>
         <translation>The IP address that was entered is not valid</translation>
+    </message>
+</context>
+<context>
+    <name>SysCommandWindow</name>
+    <message>
+        <source>Po wykonaniu polecenia wyłącz zasilacz UPS</source>
+        <translation>Turn off the UPS after running the command</translation>
+    </message>
+    <message>
+        <source>Polecenie systemowe</source>
+        <translation>System command</translation>
+    </message>
+    <message>
+        <source>Otwórz</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Polecenia systemowe</source>
+        <translation>System commands</translation>
+    </message>
+    <message>
+        <source>Polecenie</source>
+        <translation>Command</translation>
+    </message>
+    <message>
+        <source>Opcje</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>Czas po którym polecenie zostanie wykonane</source>
+        <translation>Delay before the command is carried out</translation>
+    </message>
+    <message>
+        <source>Wybierz plik</source>
+        <translation>Choose a file</translation>
+    </message>
+    <message>
+        <source>Wszystkie pliki (*.*)</source>
+        <translation>All files (*.*)</translation>
     </message>
 </context>
 <context>
