@@ -1042,6 +1042,112 @@ UPS module</translation>
         <source>Anuluj</source>
         <translation>Cancel</translation>
     </message>
+    <message>
+        <source>Grupa</source>
+        <translation>Group</translation>
+    </message>
+    <message>
+        <source>Błąd odczytu</source>
+        <translation>Read error</translation>
+    </message>
+    <message>
+        <source>Nie odczytano pliku konfiguracyjnego</source>
+        <translation>The configuration file could not be read</translation>
+    </message>
+    <message>
+        <source>Hasło dla elementu sieciowego zostało zmienione.</source>
+        <translation>The password of a network element has been changed.</translation>
+    </message>
+    <message>
+        <source>Konieczne jest zachowanie konfiguracji. Czy zachować? </source>
+        <translation>The configuration has to be saved. Save it now? </translation>
+    </message>
+    <message>
+        <source>Zdarzenie </source>
+        <translation>Event </translation>
+    </message>
+    <message>
+        <source>Nieprawidłowe hasło</source>
+        <translation>Wrong password</translation>
+    </message>
+    <message>
+        <source>Podane hasło Administratora jest nieprawidłowe</source>
+        <translation>The administrator password you entered is incorrect</translation>
+    </message>
+    <message>
+        <source>Uwaga!</source>
+        <translation>Warning!</translation>
+    </message>
+    <message>
+        <source>Wybierz grupę do której chcesz dodać zdarzenie</source>
+        <translation>Select the group that the event is to be added to</translation>
+    </message>
+    <message>
+        <source>Wybierz zdarzenie</source>
+        <translation>Select an event</translation>
+    </message>
+    <message>
+        <source>Konfiguracja zawiera już zdarzenie </source>
+        <translation>The configuration already contains the event </translation>
+    </message>
+    <message>
+        <source>Nie zostały ustawione parametry zamknięcia systemu.
+Wybierz przycisk &quot;Konfiguruj&quot;.</source>
+        <translation>The shutdown parameters have not been set.
+Choose the &quot;Configure&quot; button.</translation>
+    </message>
+    <message>
+        <source>Nie zostały ustawione parametry polecenia systemowego.
+Wybierz przycisk &quot;Konfiguruj&quot;.</source>
+        <translation>The system command parameters have not been set.
+Choose the &quot;Configure&quot; button.</translation>
+    </message>
+    <message>
+        <source>Nie zostały ustawione parametry dla wysyłania email.
+Wybierz przycisk &quot;Konfiguruj&quot;.</source>
+        <translation>The e-mail parameters have not been set.
+Choose the &quot;Configure&quot; button.</translation>
+    </message>
+    <message>
+        <source>Nie zostały ustawione parametry gniazda sterowalnego.
+Wybierz przycisk &quot;Konfiguruj&quot;.</source>
+        <translation>The switchable socket parameters have not been set.
+Choose the &quot;Configure&quot; button.</translation>
+    </message>
+    <message>
+        <source>Nieprawidłowa konfiguracja.
+Opóźnienie wykonania polecenia systemowego jest większe od opóźnienia zamknięcia systemu.
+Polecenie systemowe nie zostanie wykonane.</source>
+        <translation>Invalid configuration.
+The system command is delayed longer than the shutdown.
+The system command will not be run.</translation>
+    </message>
+    <message>
+        <source>Nieprawidłowa konfiguracja.
+Opóźnienie włączenia/wyłączenia gniazda sterowalnego jest większe od opóźnienia zamknięcia systemu.
+Polecenie dla gniazda sterowalnego nie zostanie wykonane.</source>
+        <translation>Invalid configuration.
+Switching the output socket on or off is delayed longer than the shutdown.
+The command for the output socket will not be carried out.</translation>
+    </message>
+    <message>
+        <source>Wybierz komputer z listy dostępnych komputerów</source>
+        <translation>Select a computer from the list of available computers</translation>
+    </message>
+    <message>
+        <source>Wybierz grupę do której chcesz dodać komputer </source>
+        <translation>Select the group to which you want to add the computer </translation>
+    </message>
+    <message>
+        <source>Wybrana grupa zawiera już ten komputer</source>
+        <translation>The selected group already contains this computer</translation>
+    </message>
+    <message>
+        <source>Czy na pewno usunąć komputer? 
+Spowoduje to usunięcie komputera ze wszystkich grup.</source>
+        <translation>Do you really want to remove the computer? 
+This removes it from all groups.</translation>
+    </message>
 </context>
 <context>
     <name>OutputSocketWindow</name>

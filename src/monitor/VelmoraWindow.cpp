@@ -161,6 +161,7 @@ void VelmoraWindow::connectController()
             &VelmoraWindow::upsCurrentStatusListMessageReceived);
     connect(controller, &UpsSocketController::availablePortsReceived, this,
             &VelmoraWindow::availablePortsMessageReceived);
+    connect(controller, &UpsSocketController::discoveredComputer, this, &VelmoraWindow::discoveredComputer);
     connect(controller, &UpsSocketController::serviceVersionReceived, this,
             &VelmoraWindow::serviceVersionReceived);
 }
@@ -186,6 +187,10 @@ void VelmoraWindow::connectForm()
     connect(ui->actionExtendInformation, &QAction::triggered, this,
             &VelmoraWindow::extendInformationButtonClickHandler);
     connect(ui->upsEventsButton, &QPushButton::clicked, this, &VelmoraWindow::upsEventsButtonClickHandler);
+    connect(ui->networkConfigurationButton, &QPushButton::clicked, this,
+            &VelmoraWindow::networkConfigurationButtonClickHandler);
+    connect(ui->actionNetworkConfiguration, &QAction::triggered, this,
+            &VelmoraWindow::networkConfigurationButtonClickHandler);
     connect(ui->actionActAsAdministrator, &QAction::triggered, this, &VelmoraWindow::logIn);
     connect(ui->actionChangePassword, &QAction::triggered, this, &VelmoraWindow::changeAdminPass);
     connect(ui->actionConnectWithService, &QAction::triggered, this, &VelmoraWindow::connectWithService);

@@ -24,6 +24,7 @@ class DebugWarningWidget;
 class DeviceStatePanel;
 class ExtendInformationWindow;
 class LogiInWindow;
+class NetworkConfigurationWindow;
 class PasswordChangeWindow;
 class QLocalServer;
 class QMenu;
@@ -65,6 +66,7 @@ signals:
 public slots:
     void applicationConfigurationButtonClickHandler();
     void upsConfigurationButtonClickHandler();
+    void networkConfigurationButtonClickHandler();
     void extendInformationButtonClickHandler();
     void aboutButtonClickHandler();
     void upsEventsButtonClickHandler();
@@ -85,6 +87,7 @@ public slots:
     void debugModeEnabled(bool enabled);
     void serviceVersionReceived(const QString& version);
     void showCountdownTimer(const QList<QPair<int, int>>& timers);
+    void discoveredComputer(const QString& ip);
 
     void displaySmtp2TestStatus(int status, const QStringList& messages);
     /// Offers the version if it is newer; says that there is none if the user asked.
@@ -161,6 +164,7 @@ private:
 
     // Null unless the dialog is open; replies that concern it are handed on.
     QPointer<UPSConfigurationWindow> upsConfigurationWindow;
+    QPointer<NetworkConfigurationWindow> networkConfigurationWindow;
     QPointer<LogiInWindow> logInWindow;
     QPointer<PasswordChangeWindow> passwordChangeWindow;
     QPointer<ApplicationConfigurationWindow> applicationConfigurationWindow;

@@ -21,6 +21,7 @@
 #include "monitor/UpsTreeWidget.h"
 #include "monitor/widgets/MessageBox.h"
 #include "monitor/widgets/ModalDialog.h"
+#include "policy/NetworkConfigurationWindow.h"
 
 using Velmora::runModal;
 using Velmora::UpsSocketController;
@@ -167,6 +168,29 @@ void VelmoraWindow::saveConfiguration(const UPSConfigurationWindow& dialog)
     socketController->setUpsConfiguration(escaped);
     Velmora::Utils::msleep(applyTime);
     socketController->getUpsConfiguration();
+}
+
+void VelmoraWindow::networkConfigurationButtonClickHandler()
+{
+    const Ups device = currentDevice;
+    auto* dialog = new NetworkConfigurationWindow(device, this);
+    dialog->setSocketController(socketController.get());
+    connect(socketController.get(), &UpsSocketController::groupReceived, dialog,
+            &NetworkConfigurationWindow::setGroupsFromConfig);
+    connect(socketController.get(), &UpsSocketController::eventsReceived, dialog,
+            &NetworkConfigurationWindow::setEventsFromConfig);
+    connect(socketController.get(), &UpsSocketController::allComputersReceived, dialog,
+            &NetworkConfigurationWindow::setAllComputers);
+    connect(socketController.get(), &UpsSocketController::netclientPass, dialog,
+            &NetworkConfigurationWindow::netclientPasswReceived);
+    dialog->getDataFromIni(device.id);
+    runModal(networkConfigurationWindow, dialog);
+}
+
+void VelmoraWindow::discoveredComputer(const QString& ip)
+{
+    if (networkConfigurationWindow)
+        networkConfigurationWindow->addDiscoveredComputer(ip);
 }
 
 void VelmoraWindow::extendInformationButtonClickHandler()

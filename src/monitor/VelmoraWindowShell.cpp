@@ -10,6 +10,7 @@
 #include "monitor/core/PanelIdentity.h"
 #include "monitor/widgets/DebugWarningWidget.h"
 #include "monitor/widgets/VLStatusWidget.h"
+#include "policy/NetworkConfigurationWindow.h"
 #include "ui_VelmoraWindow.h"
 
 #include <QCloseEvent>
@@ -91,6 +92,8 @@ void VelmoraWindow::disableAdministratorButtons()
         applicationConfigurationWindow->setEnabledButtons(false);
     if (upsConfigurationWindow)
         upsConfigurationWindow->setEnabledButtons(false);
+    if (networkConfigurationWindow)
+        networkConfigurationWindow->setEnabledButtons(false);
 }
 
 void VelmoraWindow::connectingInProgress()

@@ -23,9 +23,9 @@ constexpr Room rooms[] = {
     {"admin/core/", "link/ monitor/core/ app/ControlPanelConfiguration.h"},
     {"admin/", "link/ admin/core/ devices/ monitor/core/ monitor/widgets/ app/ControlPanelConfiguration.h"},
     {"policy/core/", "link/ devices/core/"},
-    {"policy/", "link/ policy/core/ monitor/widgets/ app/ControlPanelConfiguration.h"},
+    {"policy/", "link/ policy/core/ monitor/widgets/ admin/ app/ControlPanelConfiguration.h"},
     {"devices/", "link/ devices/core/ monitor/widgets/"},
-    {"monitor/", "link/ devices/ devices/core/ monitor/core/ monitor/widgets/ admin/ admin/core/ "
+    {"monitor/", "link/ devices/ devices/core/ monitor/core/ monitor/widgets/ admin/ admin/core/ policy/ "
                  "app/ControlPanelConfiguration.h"},
     {"app/ControlPanelConfiguration", ""},
     {"app/PanelLanguage", ""},

@@ -320,7 +320,7 @@ int PolicyModel::obtainIdForNewComputer() const
     return Utils::getFreeId(idsOf(allComputers));
 }
 
-void PolicyModel::addComputer(Computer computer, const QString& groupName)
+void PolicyModel::addComputer(Computer computer, const std::optional<QString>& groupName)
 {
     computer.id = obtainIdForNewComputer();
     for (Group& group : m_groups) {

@@ -100,8 +100,8 @@ public:
     [[nodiscard]] bool groupHoldsLocalComputer(int groupId, const QString& serviceAddress) const;
     [[nodiscard]] int obtainIdForNewComputer() const;
 
-    /// Gives the computer an id. A group of that name takes it in.
-    void addComputer(Computer computer, const QString& groupName);
+    /// Gives the computer an id. Groups of that name take it in.
+    void addComputer(Computer computer, const std::optional<QString>& groupName);
     void setComputerName(int id, const QString& name);
     void setComputerPassword(int id, const QString& password);
     /// Also from the groups, from each of them once.
