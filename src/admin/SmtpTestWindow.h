@@ -38,5 +38,5 @@ private:
 
     std::unique_ptr<Ui::SmtpTestWindow> ui;
     QMovie m_spinner;
-    QTimer m_timer;
+    QTimer m_timer{this};
 };

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Velmora developers
 // SPDX-License-Identifier: MIT
+#include "admin/ApplicationConfigurationWindow.h"
 #include "admin/LogiInWindow.h"
+#include "admin/SmtpTestWindow.h"
 #include "link/TextHelpers.h"
 #include "monitor/ExtendInformationWindow.h"
 #include "monitor/UpsEventsWindow.h"
@@ -8,9 +10,11 @@
 #include "support/ModalDriver.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QListView>
 #include <QPushButton>
 #include <QTest>
+#include <QTextEdit>
 
 using namespace Velmora::Tests;
 using Velmora::Utils::makeMd5;
@@ -57,6 +61,7 @@ private slots:
     void dialogsOutliveTheLink();
     void extendedInformationFollowsTheReports();
     void eventsFollowTheReports();
+    void serviceSettingsAreSavedWhole();
 
 private:
     void open(const char* control) const;
@@ -136,6 +141,7 @@ void WindowDialogsTest::dialogsOutliveTheLink_data()
     };
     row("login", "actionActAsAdministrator", "LogiInWindow", true);
     row("password change", "actionChangePassword", "PasswordChangeWindow", true);
+    row("service-wide settings", "actionApplicationConfiguration", "ApplicationConfigurationWindow", false);
     row("service address", "actionConnectWithService", "ConnectWithServiceWindow", false);
     row("extended information", "actionExtendInformation", "ExtendInformationWindow", false);
     row("events", "upsEventsButton", "UpsEventsWindow", false);
@@ -227,6 +233,59 @@ void WindowDialogsTest::eventsFollowTheReports()
                                             pressOk(dialog);
                                             QVERIFY(dialog.isHidden());
                                         }));
+}
+
+void WindowDialogsTest::serviceSettingsAreSavedWhole()
+{
+    const QByteArray mail =
+        "<smtp2_security_type>%1</smtp2_security_type><smtp2_server>mail</smtp2_server><smtp2_port>25</"
+        "smtp2_port>"
+        "<smtp2_timeout>30</smtp2_timeout><smtp2_sender_address>a@b.c.pl</smtp2_sender_address>"
+        "<smtp2_authentication>1</smtp2_authentication><smtp2_user>u</smtp2_user><smtp2_pass>p</smtp2_pass>";
+    const QByteArray rest = "<log_files_path>/l</log_files_path><run_on_boot>1</run_on_boot>";
+    const auto request = [this](const char* name) { return panel->service.requestCount(name); };
+    const auto followTest = [&](const SmtpTestWindow& test) {
+        QVERIFY(panel->service.waitForRequest("smtp2_send_test_mail"));
+        QVERIFY(panel->send("<smtp2_test_status><current_status>1</current_status></smtp2_test_status>"));
+        QVERIFY(!test.findChild<QTimer*>(QStringLiteral("noCommunicationTimer"))->isActive());
+        QVERIFY(panel->send("<smtp2_test_status><current_status>0</current_status><msg_0>&lt;b&gt;</msg_0>"
+                            "</smtp2_test_status>"));
+        QCOMPARE(test.findChild<QLabel*>(QStringLiteral("statusText"))->text(),
+                 QStringLiteral("Konfiguracja błędna"));
+        QCOMPARE(test.findChild<QTextEdit*>()->toPlainText(), QStringLiteral("<b>"));
+    };
+    const auto edit = [&](const ApplicationConfigurationWindow& dialog) {
+        // The buttons go on with the service, before it has said what would be overwritten.
+        QVERIFY(panel->send("<daemon_is_ready/>"));
+        pressOk(dialog);
+        QVERIFY(panel->send("<application_configuration>" + QByteArray(mail).replace("%1", "SSL") + rest +
+                            "</application_configuration>"));
+        for (const auto& [field, wrong, right] : {std::make_tuple("smtpPortEdit", "1,000", "25"),
+                                                  {"smtpPortEdit", "70000", "25"},
+                                                  {"smtpTimeoutEdit", "9", "30"},
+                                                  {"smtpSenderAddressEdit", "a@b.abcdefg", "a@b.c.pl"},
+                                                  {"smtpServerEdit", "", "mail"}}) {
+            typeInto(dialog, field, QLatin1String(wrong));
+            pressOk(dialog);
+            QVERIFY2(dialog.isVisible() &&
+                         !dialog.findChild<QLineEdit*>(QLatin1String(field))->styleSheet().isEmpty(),
+                     wrong);
+            typeInto(dialog, field, QLatin1String(right));
+        }
+        QCOMPARE(request("application_configuration"), 0);
+        auto* test = dialog.findChild<QPushButton*>(QStringLiteral("smtpTestButton"));
+        QVERIFY(driveModal<SmtpTestWindow>([test] { test->click(); }, followTest));
+        pressOk(dialog);
+    };
+    panel->window->enableAdministratorButtons();
+    QVERIFY(
+        driveModal<ApplicationConfigurationWindow>([this] { open("aplicationConfigurationButton"); }, edit));
+    QVERIFY(panel->settle());
+    QCOMPARE(request("application_configuration"), 1);
+    const QByteArray saved = panel->service.requests().at(panel->service.requests().size() - 2).xml;
+    QVERIFY2(saved.contains(QByteArray(mail).replace("%1", "ssl") + rest +
+                            "<control_panel_path></control_panel_path>"),
+             saved.constData());
 }
 
 QTEST_MAIN(WindowDialogsTest)
