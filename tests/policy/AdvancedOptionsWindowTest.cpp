@@ -3,7 +3,6 @@
 #include "policy/AdvancedOptionsWindow.h"
 #include "devices/core/ModelCatalogue.h"
 #include "devices/core/ModelRules.h"
-#include "policy/core/EventDefinitions.h"
 #include "support/ModalDriver.h"
 #include "support/ScriptedPrompts.h"
 
@@ -17,6 +16,8 @@ namespace {
 
 const QStringList stored{QStringLiteral("Zdarzenie 1"), QStringLiteral("stateNormal,ON,==,"),
                          QStringLiteral("stateNormal,OFF,==,")};
+const QString bothGreen = QStringLiteral("true color: green true color: green");
+const QString bothRed = QStringLiteral("false color: red false color: red");
 
 Velmora::Utils::Ups device(const QString& configName)
 {
@@ -25,31 +26,31 @@ Velmora::Utils::Ups device(const QString& configName)
     return ups;
 }
 
+template <typename Widget>
+Widget* find(const QDialog& dialog, const char* name)
+{
+    return dialog.findChild<Widget*>(QLatin1String(name));
+}
+
 void doubleClick(const QDialog& dialog, const char* name, int row)
 {
-    auto* list = dialog.findChild<QListWidget*>(QLatin1String(name));
+    auto* list = find<QListWidget>(dialog, name);
     list->scrollToItem(list->item(row));
     const QPoint place = list->visualItemRect(list->item(row)).center();
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
     QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place);
 }
 
-QTextEdit* condition(const QDialog& dialog, const char* name)
-{
-    return dialog.findChild<QTextEdit*>(QLatin1String(name));
-}
-
-/// "valid" of both conditions, with the colours that say so.
+/// What both conditions are held for, with the colours that say so.
 QString shownAs(const QDialog& dialog)
 {
     QStringList shown;
-    for (const char* name : {"expressionTextIn", "expressionTextOut"})
-        shown << condition(dialog, name)->property("valid").toString()
-              << condition(dialog, name)->styleSheet();
+    for (const char* name : {"expressionTextIn", "expressionTextOut"}) {
+        const auto* edit = find<QTextEdit>(dialog, name);
+        shown << edit->property("valid").toString() << edit->styleSheet();
+    }
     return shown.join(QLatin1Char(' '));
 }
-
-const QString bothGreen = QStringLiteral("true color: green true color: green");
 
 } // namespace
 
@@ -59,32 +60,26 @@ class AdvancedOptionsWindowTest final : public QObject
 
 private slots:
     void initTestCase() { Q_INIT_RESOURCE(velmora); }
-    void cleanup();
     void conditionsAreClickedTogether_data();
     void conditionsAreClickedTogether();
     void entriesAreRefusedInOrder_data();
     void entriesAreRefusedInOrder();
-    void brokenConditionsAreShownAsTheyCame();
-    void eventsAreFiltered();
-    void deviceWithoutDefinitionsIsTold();
-};
+    void whatCannotBeReadIsShown();
 
-void AdvancedOptionsWindowTest::cleanup()
-{
-    closeStrayWindows();
-    Velmora::Prompts::replace(nullptr);
-}
+private:
+    QVector<Event> m_events;
+};
 
 void AdvancedOptionsWindowTest::conditionsAreClickedTogether_data()
 {
     QTest::addColumn<QString>("model");
     QTest::addColumn<QString>("language");
     for (const auto& model : Velmora::Utils::getAllSuportedModelList()) {
-        if (!Velmora::hasAdvancedEventOptions(model.configName))
-            continue;
-        for (const char* language : {"polish", "english"})
-            QTest::addRow("%s in %s", qPrintable(model.configName), language)
-                << model.configName << QString::fromLatin1(language);
+        for (const char* language : {"polish", "english"}) {
+            if (Velmora::hasAdvancedEventOptions(model.configName))
+                QTest::addRow("%s in %s", qPrintable(model.configName), language)
+                    << model.configName << QString::fromLatin1(language);
+        }
     }
 }
 
@@ -94,119 +89,88 @@ void AdvancedOptionsWindowTest::conditionsAreClickedTogether()
     QFETCH(QString, language);
     QSettings(qEnvironmentVariable("VELMORA_CONTROL_PANEL_INI"), QSettings::IniFormat)
         .setValue(QStringLiteral("language"), language);
-    const QStringList keys =
-        Velmora::readEventDefinitions(Velmora::eventDefinitionsPath(model), device(model), language)
-            .eventKeys;
-    const bool numeric = keys.constLast().startsWith(QLatin1String("param"));
-    QVector<Event> events;
-    AdvancedOptionsWindow dialog(device(model), {stored.at(0)}, &events, nullptr);
-    dialog.setEditMode(false);
+    const QString path = Velmora::eventDefinitionsPath(model);
+    const QStringList keys = Velmora::readEventDefinitions(path, device(model), language).eventKeys;
+    const QString first = keys.constFirst();
+    const QString last = keys.constLast();
+    const bool numeric = last.startsWith(QLatin1String("param"));
+    AdvancedOptionsWindow dialog(device(model), {stored.at(0)}, &m_events, nullptr);
     dialog.show();
-    QCOMPARE(dialog.findChild<QListWidget*>(QStringLiteral("operatorListIn"))->count(), numeric ? 9 : 4);
-    // Both conditions start with the first key; the first one goes on with the last.
-    doubleClick(dialog, "eventStatesListOut", 0);
-    doubleClick(dialog, "operatorListOut", 0);
-    doubleClick(dialog, "statesListOut", 1);
-    doubleClick(dialog, "eventStatesListIn", 0);
-    doubleClick(dialog, "operatorListIn", 0);
-    doubleClick(dialog, "statesListIn", 0);
-    doubleClick(dialog, "operatorListIn", numeric ? 7 : 2);
-    doubleClick(dialog, "eventStatesListIn", keys.size() - 1);
-    doubleClick(dialog, "operatorListIn", numeric ? 3 : 0);
-    if (numeric)
-        QTest::keyClicks(condition(dialog, "expressionTextIn"), QStringLiteral("30"));
-    else
-        doubleClick(dialog, "statesListIn", 1);
+    // A pattern that is none lets nothing through; without one, everything comes back.
+    for (const char* pattern : {"[", ""}) {
+        typeInto(dialog, "filterIn", QLatin1String(pattern));
+        QCOMPARE(find<QListWidget>(dialog, "eventStatesListIn")->count(), *pattern ? 0 : keys.size());
+    }
+    const QVector<QPair<const char*, int>> clicks{{"eventStatesListOut", 0},
+                                                  {"operatorListOut", 0},
+                                                  {"statesListOut", 1},
+                                                  {"eventStatesListIn", 0},
+                                                  {"operatorListIn", 0},
+                                                  {"statesListIn", 0},
+                                                  {"operatorListIn", numeric ? 7 : 2},
+                                                  {"eventStatesListIn", keys.size() - 1},
+                                                  {"operatorListIn", numeric ? 3 : 0}};
+    for (const auto& click : clicks)
+        doubleClick(dialog, click.first, click.second);
+    const QString value = numeric ? QStringLiteral("30") : QStringLiteral("OFF");
+    QTest::keyClicks(find<QTextEdit>(dialog, "expressionTextIn"), value);
     QCOMPARE(shownAs(dialog), bothGreen);
-    QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("saveAsNewEventButton")), Qt::LeftButton);
-    QCOMPARE(dialog.result(), int(QDialog::Accepted));
-    const QString last =
-        keys.constLast() + (numeric ? QStringLiteral(",30,<=,") : QStringLiteral(",OFF,==,"));
-    const QStringList expected{stored.at(0),
-                               keys.at(0) + QStringLiteral(",ON,==,") + last + QStringLiteral("&&,"),
-                               keys.at(0) + QStringLiteral(",OFF,==,")};
+    find<QPushButton>(dialog, "saveAsNewEventButton")->click();
+    const QString operation = numeric ? QStringLiteral("<=") : QStringLiteral("==");
+    const QString in = QStringLiteral("%1,ON,==,%2,%3,%4,&&,").arg(first, last, value, operation);
+    const QStringList expected{stored.at(0), in, first + QStringLiteral(",OFF,==,")};
     QCOMPARE(dialog.getExpressions(), expected);
-    const AdvancedOptionsWindow again(device(model), expected, &events, nullptr);
-    QCOMPARE(shownAs(again), bothGreen);
+    QCOMPARE(shownAs(AdvancedOptionsWindow(device(model), expected, &m_events, nullptr)), bothGreen);
 }
 
 void AdvancedOptionsWindowTest::entriesAreRefusedInOrder_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("out");
-    QTest::addColumn<QString>("message");
-    const auto row = [](const char* name, const char* event, const char* out, const char* message) {
-        QTest::newRow(name) << QString::fromUtf8(event) << QString::fromUtf8(out)
-                            << QString::fromUtf8(message);
+    const auto row = [](const char* message, const char* name, const char* out) {
+        QTest::newRow(message) << QString::fromUtf8(name) << QString::fromUtf8(out);
     };
-    row("no name", "", "", "Pole \"Nazwa zdarzenia\" nie może być puste");
-    row("a name that XML would have to escape", "a\"b", "", "Nazwa zdarzenia zawiera niedozwolone znaki");
-    row("no condition", "a", "", "Należy wprowadzić wyrażenie.");
-    row("a red condition", "a", "stateNormal", "Wprowadzone wyrażenie jest nieprawidłowe.");
-    row("a green condition that does not parse", "a", "stateNormal()==ON",
-        "Wystąpił błąd podczas przetwarzania wyrażenia.");
-    row("a name that is taken", "Zdarzenie 2", "stateNormal==ON",
-        "Konfiguracja zawiera już zdarzenie Zdarzenie 2");
-    row("its own name is not taken", "Zdarzenie 1", "stateNormal==ON", "");
-    row("a new name", "a", "stateNormal==ON", "");
+    row("Uwaga|Pole \"Nazwa zdarzenia\" nie może być puste", "", "");
+    row("Uwaga|Nazwa zdarzenia zawiera niedozwolone znaki", "a\"b", "");
+    row("Uwaga|Należy wprowadzić wyrażenie.", "a", "");
+    row("Uwaga|Wprowadzone wyrażenie jest nieprawidłowe.", "a", "stateNormal");
+    row("Uwaga|Wystąpił błąd podczas przetwarzania wyrażenia.", "a", "stateNormal()==ON");
+    row("Uwaga|Konfiguracja zawiera już zdarzenie Zdarzenie 2", "Zdarzenie 2", "stateNormal==ON");
+    row("", "Zdarzenie 1", "stateNormal==ON");
 }
 
 void AdvancedOptionsWindowTest::entriesAreRefusedInOrder()
 {
     QFETCH(QString, name);
     QFETCH(QString, out);
-    QFETCH(QString, message);
     QVector<Event> events(2);
     events[0].state = stored.at(0);
     events[1].state = QStringLiteral("Zdarzenie 2");
     AdvancedOptionsWindow dialog(device(QStringLiteral("TARVEX33_USB")), stored, &events, nullptr);
-    dialog.setEditMode(true);
     dialog.show();
     typeInto(dialog, "eventNameTextEdit", name);
-    condition(dialog, "expressionTextOut")->setPlainText(out);
-    QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("saveEventButton")), Qt::LeftButton);
-    const QStringList messages =
-        message.isEmpty() ? QStringList() : QStringList{QStringLiteral("Uwaga|") + message};
-    QCOMPARE(takeMessages(), messages);
-    QCOMPARE(dialog.isVisible(), !message.isEmpty());
-    if (message.isEmpty())
-        QCOMPARE(dialog.getExpressions(),
-                 (QStringList{name, stored.at(1), QStringLiteral("stateNormal,ON,==,")}));
+    find<QTextEdit>(dialog, "expressionTextOut")->setPlainText(out);
+    find<QPushButton>(dialog, "saveEventButton")->click();
+    const QString message = QString::fromUtf8(QTest::currentDataTag());
+    QCOMPARE(takeMessages().join(QString()), message);
+    QCOMPARE(dialog.isHidden(), message.isEmpty());
 }
 
-void AdvancedOptionsWindowTest::brokenConditionsAreShownAsTheyCame()
+void AdvancedOptionsWindowTest::whatCannotBeReadIsShown()
 {
+    // As plain text: nothing of it is markup.
     const QString broken = QStringLiteral("==,(a<b>c),&lt;");
-    QVector<Event> events;
-    AdvancedOptionsWindow dialog(device(QStringLiteral("TARVEX33_USB")), {stored.at(0), broken, QString()},
-                                 &events, nullptr);
-    QCOMPARE(condition(dialog, "expressionTextIn")->toPlainText(), broken);
-    QCOMPARE(shownAs(dialog), QStringLiteral("false color: red false color: red"));
-}
-
-void AdvancedOptionsWindowTest::eventsAreFiltered()
-{
-    QVector<Event> events;
-    AdvancedOptionsWindow dialog(device(QStringLiteral("TARVEX33_USB")), {}, &events, nullptr);
-    const auto* list = dialog.findChild<QListWidget*>(QStringLiteral("eventStatesListOut"));
-    const int all = list->count();
-    for (const auto& row : QVector<QPair<QString, int>>{
-             {QStringLiteral("WORK MODE.*eco$"), 1}, {QStringLiteral("["), 0}, {QString(), all}}) {
-        typeInto(dialog, "filterOut", row.first);
-        QCOMPARE(list->count(), row.second);
-    }
-}
-
-void AdvancedOptionsWindowTest::deviceWithoutDefinitionsIsTold()
-{
+    const AdvancedOptionsWindow shown(device(QStringLiteral("TARVEX33_USB")),
+                                      {stored.at(0), broken, QString()}, &m_events, nullptr);
+    QCOMPARE(find<QTextEdit>(shown, "expressionTextIn")->toPlainText(), broken);
+    QCOMPARE(shownAs(shown), bothRed);
     ScriptedPrompts& prompts = ScriptedPrompts::install();
     prompts.expect({QStringLiteral("Błąd ładowania pliku"), QMessageBox::Ok, false, {}});
-    QVector<Event> events;
-    AdvancedOptionsWindow dialog(device(QStringLiteral("../x")), stored, &events, nullptr);
+    const AdvancedOptionsWindow empty(device(QStringLiteral("../x")), stored, &m_events, nullptr);
     QVERIFY(prompts.allAsked());
-    for (const QListWidget* list : dialog.findChildren<QListWidget*>())
-        QCOMPARE(list->count(), 0);
-    QCOMPARE(shownAs(dialog), QStringLiteral("false color: red false color: red"));
+    Velmora::Prompts::replace(nullptr);
+    QCOMPARE(find<QListWidget>(empty, "statesListIn")->count(), 0);
+    QCOMPARE(shownAs(empty), bothRed);
 }
 
 QTEST_MAIN(AdvancedOptionsWindowTest)
