@@ -12,6 +12,7 @@
 #include "link/UpsSocketController.h"
 #include "monitor/ExtendInformationWindow.h"
 #include "monitor/UpsEventsWindow.h"
+#include "policy/AdvancedOptionsWindow.h"
 #include "policy/ComputerConfigurationWindow.h"
 #include "policy/DiscoverWindow.h"
 #include "policy/GroupConfigurationWindow.h"
@@ -29,6 +30,7 @@
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QScopeGuard>
+#include <QSettings>
 #include <QTest>
 #include <QTranslator>
 
@@ -105,6 +107,14 @@ std::unique_ptr<QDialog> policy(const char* configName)
     return dialog;
 }
 
+std::unique_ptr<QDialog> conditions()
+{
+    static QVector<Event> noEvents;
+    Velmora::Utils::Ups device;
+    device.model_name = QStringLiteral("Tarvex33_SNMP");
+    return std::make_unique<AdvancedOptionsWindow>(device, QStringList(), &noEvents, nullptr);
+}
+
 template <typename Dialog>
 std::unique_ptr<QDialog> plain(UpsSocketController* /*link*/)
 {
@@ -129,6 +139,7 @@ const DialogRow dialogRows[] = {
     {"about", [](auto* /*link*/) { return std::make_unique<AboutWindow>(nullptr); }},
     {"policy of a simple device", [](auto* /*link*/) { return policy("LumoPro_Rack_RS232"); }},
     {"policy of an advanced device", [](auto* /*link*/) { return policy("Tarvex33_SNMP"); }},
+    {"conditions of an event", [](auto* /*link*/) { return conditions(); }},
     {"system command", plain<SysCommandWindow>},
     {"e-mail of an event", plain<SendEmailWindow>},
     {"shutdown", plain<PowerOffWindow>},
@@ -148,7 +159,8 @@ const DialogRow dialogRows[] = {
 
 /// Texts that read the same in both languages.
 const QRegularExpression sameInBoth(QStringLiteral(
-    "^(OK|Bypass|Dummy \\d|VAC rms|Hz|Ah|min|godz|dni|brak|D\\+|Port|TLS|SSL|\\S+example\\.com|Velmora "
+    "^(OK|ON|OFF|Bypass|Dummy \\d|VAC "
+    "rms|Hz|Ah|min|godz|dni|brak|D\\+|Port|TLS|SSL|\\S+example\\.com|Velmora "
     "Professional|© .*|Qt \\S+|zlib|Boost|"
     "GNU LGPL .*|.* License.*|header|group|stateNormal|Komputery dostępne w systemie Velmora)$"));
 
@@ -275,8 +287,11 @@ void DialogsTest::dialogsAreSound()
     for (const bool english : {false, true}) {
         QTranslator qtTexts;
         QTranslator panelTexts;
-        Velmora::Startup::installTranslators(english ? QStringLiteral("english") : QStringLiteral("polish"),
-                                             qtTexts, panelTexts);
+        const QString language = english ? QStringLiteral("english") : QStringLiteral("polish");
+        Velmora::Startup::installTranslators(language, qtTexts, panelTexts);
+        // Labels of events follow the settings.
+        QSettings(qEnvironmentVariable("VELMORA_CONTROL_PANEL_INI"), QSettings::IniFormat)
+            .setValue(QStringLiteral("language"), language);
         const std::unique_ptr<QDialog> dialog = dialogRows[row].build(&link);
         dialog->show();
         QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
