@@ -3033,6 +3033,323 @@ Reset it once, right after each replacement of the battery in the UPS. Do you wa
     </message>
 </context>
 <context>
+    <name>UpsLogsWindow</name>
+    <message>
+        <source>Data</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Czas</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>Czas autonomii</source>
+        <translation>Battery runtime</translation>
+    </message>
+    <message>
+        <source>Stan naładowania akumulatora</source>
+        <translation>Battery charge level</translation>
+    </message>
+    <message>
+        <source>Tryb pracy</source>
+        <translation>Work mode</translation>
+    </message>
+    <message>
+        <source>Temp. wewnętrzna zasilacza</source>
+        <translation>UPS internal temp.</translation>
+    </message>
+    <message>
+        <source>Napięcie wejściowe</source>
+        <translation>Input voltage</translation>
+    </message>
+    <message>
+        <source>Częstotliowść wejściowa</source>
+        <translation>Input frequency</translation>
+    </message>
+    <message>
+        <source>Moc czynna wejściowa</source>
+        <translation>Input active power</translation>
+    </message>
+    <message>
+        <source>Napięcie wyjściowe</source>
+        <translation>Output voltage</translation>
+    </message>
+    <message>
+        <source>Częstotliowść wyjściowa</source>
+        <translation>Output frequency</translation>
+    </message>
+    <message>
+        <source>Moc pozorna wejściowa</source>
+        <translation>Input apparent power</translation>
+    </message>
+    <message>
+        <source>Prąd wejściowy</source>
+        <translation>Input current</translation>
+    </message>
+    <message>
+        <source>PF wejściowy</source>
+        <translation>Input PF</translation>
+    </message>
+    <message>
+        <source>Moc czynna wyjściowa</source>
+        <translation>Output active power</translation>
+    </message>
+    <message>
+        <source>Prąd wyjściowy</source>
+        <translation>Output current</translation>
+    </message>
+    <message>
+        <source>PF wyjściowy</source>
+        <translation>Output PF</translation>
+    </message>
+    <message>
+        <source>Moc pozorna wyjściowa</source>
+        <translation>Output apparent power</translation>
+    </message>
+    <message>
+        <source>Prąd akumulatorów</source>
+        <translation>Battery current</translation>
+    </message>
+    <message>
+        <source>Napięcie akumulatorów</source>
+        <translation>Battery voltage</translation>
+    </message>
+    <message>
+        <source>Obciążenie</source>
+        <translation>Load</translation>
+    </message>
+    <message>
+        <source>Moc obciążenia</source>
+        <translation>Load power</translation>
+    </message>
+    <message>
+        <source>Temp. 1</source>
+        <translation>Temp. 1</translation>
+    </message>
+    <message>
+        <source>Temp. 2</source>
+        <translation>Temp. 2</translation>
+    </message>
+    <message>
+        <source>Temp. 3</source>
+        <translation>Temp. 3</translation>
+    </message>
+    <message>
+        <source>Temp. 4</source>
+        <translation>Temp. 4</translation>
+    </message>
+    <message>
+        <source>Pojemność akumulatorów</source>
+        <translation>Battery capacity</translation>
+    </message>
+    <message>
+        <source>Napięcie bypass</source>
+        <translation>Bypass voltage</translation>
+    </message>
+    <message>
+        <source>Prąd bypass</source>
+        <translation>Bypass current</translation>
+    </message>
+    <message>
+        <source>Moc czynna bypass</source>
+        <translation>Bypass active power</translation>
+    </message>
+    <message>
+        <source>Moc pozorna bypass</source>
+        <translation>Bypass apparent power</translation>
+    </message>
+    <message>
+        <source>Współczynnik mocy wyjściowej</source>
+        <translation>Output power factor</translation>
+    </message>
+    <message>
+        <source>Współczynnik mocy bypass</source>
+        <translation>Bypass power factor</translation>
+    </message>
+    <message>
+        <source>PF toru obejściowego</source>
+        <translation>Bypass PF</translation>
+    </message>
+    <message>
+        <source>Współczynnik mocy prostownika</source>
+        <translation>Rectifier power factor</translation>
+    </message>
+    <message>
+        <source>Częstotliwość bypass</source>
+        <translation>Bypass frequency</translation>
+    </message>
+    <message>
+        <source>Napięcie prostownika</source>
+        <translation>Rectifier voltage</translation>
+    </message>
+    <message>
+        <source>Prąd prostownika</source>
+        <translation>Rectifier current</translation>
+    </message>
+    <message>
+        <source>Częstotliwość prostownika</source>
+        <translation>Rectifier frequency</translation>
+    </message>
+    <message>
+        <source>Moc czynna prostownika</source>
+        <translation>Rectifier active power</translation>
+    </message>
+    <message>
+        <source>Moc pozorna prostownika</source>
+        <translation>Rectifier apparent power</translation>
+    </message>
+    <message>
+        <source>PF prostownika</source>
+        <translation>Rectifier PF</translation>
+    </message>
+    <message>
+        <source>Stan akumulatorów</source>
+        <translation>Battery state</translation>
+    </message>
+    <message>
+        <source>Temp. otoczenia</source>
+        <translation>Ambient temp.</translation>
+    </message>
+    <message>
+        <source>Wilgotność względna</source>
+        <translation>Relative humidity</translation>
+    </message>
+    <message>
+        <source>Maksymalne napięcie wejściowe</source>
+        <translation>Maximum input voltage</translation>
+    </message>
+    <message>
+        <source>Minimalne napięcie wejściowe</source>
+        <translation>Minimum input voltage</translation>
+    </message>
+    <message>
+        <source>Ujemne napięcie magistrali</source>
+        <translation>Negative bus voltage</translation>
+    </message>
+    <message>
+        <source>Dodatnie napięcie magistrali</source>
+        <translation>Positive bus voltage</translation>
+    </message>
+    <message>
+        <source>Temp. radiatora</source>
+        <translation>Heat sink temp.</translation>
+    </message>
+    <message>
+        <source>Temp. akumulatorów</source>
+        <translation>Battery temp.</translation>
+    </message>
+    <message>
+        <source>Czas pracy rezerwowej</source>
+        <translation>Time on battery</translation>
+    </message>
+    <message>
+        <source>Poziom paliwa</source>
+        <translation>Fuel level</translation>
+    </message>
+    <message>
+        <source>Całkowity czas pracy</source>
+        <translation>Total run time</translation>
+    </message>
+    <message>
+        <source>Całkowite zużycie paliwa</source>
+        <translation>Total fuel consumption</translation>
+    </message>
+    <message>
+        <source>Nap. międzyfazowe w sieci elektrycznej</source>
+        <translation>Mains line-to-line voltage</translation>
+    </message>
+    <message>
+        <source>Wyjściowe napięcie międzyfazowe</source>
+        <translation>Output line-to-line voltage</translation>
+    </message>
+    <message>
+        <source>D+</source>
+        <translation>D+</translation>
+    </message>
+    <message>
+        <source>Wyłączenia awaryjne</source>
+        <translation>Emergency stops</translation>
+    </message>
+    <message>
+        <source>Czas do przedlądu</source>
+        <translation>Time to maintenance</translation>
+    </message>
+    <message>
+        <source>Liczba uruchomień</source>
+        <translation>Number of starts</translation>
+    </message>
+    <message>
+        <source>Moc bierna wyjściowa</source>
+        <translation>Output reactive power</translation>
+    </message>
+    <message>
+        <source>Licznik zaników napięcia sieciowego</source>
+        <translation>Mains failure counter</translation>
+    </message>
+    <message>
+        <source>Licznik wyzwoleń AVR podwyższającego</source>
+        <translation>AVR boost counter</translation>
+    </message>
+    <message>
+        <source>Licznik przeciążeń</source>
+        <translation>Overload counter</translation>
+    </message>
+    <message>
+        <source>Licznik zwarć</source>
+        <translation>Short-circuit counter</translation>
+    </message>
+    <message>
+        <source>Licznik rozładowań</source>
+        <translation>Discharge counter</translation>
+    </message>
+    <message>
+        <source>Czas pracy w przeciążeniu</source>
+        <translation>Overload operation time</translation>
+    </message>
+    <message>
+        <source>Czas pracy sieciowej</source>
+        <translation>Mains operation time</translation>
+    </message>
+    <message>
+        <source>Czas pracy autonomicznej</source>
+        <translation>Battery operation time</translation>
+    </message>
+    <message>
+        <source>Bazowy wsp. 
+kompensacji L1</source>
+        <translation>Base compens. 
+factor L1</translation>
+    </message>
+    <message>
+        <source>Bazowy wsp. 
+kompensacji L2</source>
+        <translation>Base compens. 
+factor L2</translation>
+    </message>
+    <message>
+        <source>Bazowy wsp. 
+kompensacji L3</source>
+        <translation>Base compens. 
+factor L3</translation>
+    </message>
+    <message>
+        <source>Wsp. kompensacji L1</source>
+        <translation>Compens. factor L1</translation>
+    </message>
+    <message>
+        <source>Wsp. kompensacji L2</source>
+        <translation>Compens. factor L2</translation>
+    </message>
+    <message>
+        <source>Wsp. kompensacji L3</source>
+        <translation>Compens. factor L3</translation>
+    </message>
+    <message>
+        <source>Komunikaty</source>
+        <translation>Messages</translation>
+    </message>
+</context>
+<context>
     <name>UpsTreeWidget</name>
     <message>
         <source>Dodaj</source>

@@ -25,8 +25,11 @@ constexpr Room rooms[] = {
     {"policy/core/", "link/ devices/core/"},
     {"policy/", "link/ policy/core/ monitor/widgets/ admin/ app/ControlPanelConfiguration.h"},
     {"devices/", "link/ devices/core/ monitor/widgets/"},
-    {"monitor/", "link/ devices/ devices/core/ monitor/core/ monitor/widgets/ admin/ admin/core/ policy/ "
-                 "app/ControlPanelConfiguration.h"},
+    {"logs/core/", "link/ monitor/core/"},
+    {"logs/", "link/ logs/core/ monitor/widgets/"},
+    {"monitor/",
+     "link/ devices/ devices/core/ logs/ monitor/core/ monitor/widgets/ admin/ admin/core/ policy/ "
+     "app/ControlPanelConfiguration.h"},
     {"app/ControlPanelConfiguration", ""},
     {"app/PanelLanguage", ""},
     {"app/", "monitor/ app/"},
