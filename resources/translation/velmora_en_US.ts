@@ -874,6 +874,53 @@ UPS module</translation>
     </message>
 </context>
 <context>
+    <name>LoggingConfigurationWindow</name>
+    <message>
+        <source>Konfiguracja logów</source>
+        <translation>Log settings</translation>
+    </message>
+    <message>
+        <source>Rejestrowane logi</source>
+        <translation>What is logged</translation>
+    </message>
+    <message>
+        <source>Dane</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>Przegląd danych</source>
+        <translation>View data</translation>
+    </message>
+    <message>
+        <source>Komunikaty</source>
+        <translation>Messages</translation>
+    </message>
+    <message>
+        <source>Przegląd komunikatów</source>
+        <translation>View messages</translation>
+    </message>
+    <message>
+        <source>Kompensacja mocy</source>
+        <translation>Power compensation</translation>
+    </message>
+    <message>
+        <source>Przegląd kompensacji</source>
+        <translation>View compensation</translation>
+    </message>
+    <message>
+        <source>Ustawienia</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>Maksymalna wielkość pliku (1kB-100000 kB)</source>
+        <translation>Maximum file size (1 kB-100000 kB)</translation>
+    </message>
+    <message>
+        <source>Interwał logowania (1s-3600 s)</source>
+        <translation>Logging interval (1 s-3600 s)</translation>
+    </message>
+</context>
+<context>
     <name>LogiInWindow</name>
     <message>
         <source>Zaloguj</source>
@@ -3347,6 +3394,26 @@ factor L3</translation>
     <message>
         <source>Komunikaty</source>
         <translation>Messages</translation>
+    </message>
+    <message>
+        <source>Przegląd logów</source>
+        <translation>Logs</translation>
+    </message>
+    <message>
+        <source>Poprzednie</source>
+        <translation>Previous</translation>
+    </message>
+    <message>
+        <source>Następne</source>
+        <translation>Next</translation>
+    </message>
+    <message>
+        <source>Anuluj</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Brak logów do wyświetlenia</source>
+        <translation>There are no logs to show</translation>
     </message>
 </context>
 <context>

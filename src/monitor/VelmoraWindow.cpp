@@ -191,6 +191,10 @@ void VelmoraWindow::connectForm()
             &VelmoraWindow::networkConfigurationButtonClickHandler);
     connect(ui->actionNetworkConfiguration, &QAction::triggered, this,
             &VelmoraWindow::networkConfigurationButtonClickHandler);
+    connect(ui->loggingConfigurationButton, &QPushButton::clicked, this,
+            &VelmoraWindow::loggingConfigurationButtonClickHandler);
+    connect(ui->actionLoggingConfiguration, &QAction::triggered, this,
+            &VelmoraWindow::loggingConfigurationButtonClickHandler);
     connect(ui->actionActAsAdministrator, &QAction::triggered, this, &VelmoraWindow::logIn);
     connect(ui->actionChangePassword, &QAction::triggered, this, &VelmoraWindow::changeAdminPass);
     connect(ui->actionConnectWithService, &QAction::triggered, this, &VelmoraWindow::connectWithService);

@@ -24,6 +24,7 @@ class DebugWarningWidget;
 class DeviceStatePanel;
 class ExtendInformationWindow;
 class LogiInWindow;
+class LoggingConfigurationWindow;
 class NetworkConfigurationWindow;
 class PasswordChangeWindow;
 class QLocalServer;
@@ -70,6 +71,7 @@ public slots:
     void extendInformationButtonClickHandler();
     void aboutButtonClickHandler();
     void upsEventsButtonClickHandler();
+    void loggingConfigurationButtonClickHandler();
     void onlineHelpButtonClickHandler();
 
     void upsDeviceState(const QMap<QString, QString>& parameters);
@@ -171,6 +173,7 @@ private:
     QPointer<ConnectWithServiceWindow> connectWithServiceWindow;
     QPointer<ExtendInformationWindow> extendInformationWindow;
     QPointer<UpsEventsWindow> upsEventsWindow;
+    QPointer<LoggingConfigurationWindow> loggingConfigurationWindow;
 
     std::unique_ptr<QMenu> trayMenu;
     std::unique_ptr<QSystemTrayIcon> trayIcon;

@@ -15,6 +15,7 @@
 #include "link/Sleep.h"
 #include "link/TextHelpers.h"
 #include "link/UpsSocketController.h"
+#include "logs/LoggingConfigurationWindow.h"
 #include "monitor/ExtendInformationWindow.h"
 #include "monitor/UpsEventsWindow.h"
 #include "monitor/UpsTreeElement.h"
@@ -205,4 +206,12 @@ void VelmoraWindow::upsEventsButtonClickHandler()
     auto* dialog = new UpsEventsWindow(this);
     dialog->updateControls(lastDeviceState.value(QStringLiteral("events")));
     runModal(upsEventsWindow, dialog);
+}
+
+void VelmoraWindow::loggingConfigurationButtonClickHandler()
+{
+    auto* dialog = new LoggingConfigurationWindow(this);
+    dialog->setSocketController(socketController.get());
+    dialog->setUps(currentDevice);
+    runModal(loggingConfigurationWindow, dialog);
 }

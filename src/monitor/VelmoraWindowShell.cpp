@@ -6,6 +6,7 @@
 #include "app/ControlPanelConfiguration.h"
 #include "devices/UPSConfigurationWindow.h"
 #include "link/UpsSocketController.h"
+#include "logs/LoggingConfigurationWindow.h"
 #include "monitor/UpsTreeWidget.h"
 #include "monitor/core/PanelIdentity.h"
 #include "monitor/widgets/DebugWarningWidget.h"
@@ -94,6 +95,8 @@ void VelmoraWindow::disableAdministratorButtons()
         upsConfigurationWindow->setEnabledButtons(false);
     if (networkConfigurationWindow)
         networkConfigurationWindow->setEnabledButtons(false);
+    if (loggingConfigurationWindow)
+        loggingConfigurationWindow->setEnabledButtons(false);
 }
 
 void VelmoraWindow::connectingInProgress()

@@ -10,6 +10,8 @@
 #include "app/Startup.h"
 #include "devices/UPSConfigurationWindow.h"
 #include "link/UpsSocketController.h"
+#include "logs/LoggingConfigurationWindow.h"
+#include "logs/UpsLogsWindow.h"
 #include "monitor/ExtendInformationWindow.h"
 #include "monitor/UpsEventsWindow.h"
 #include "policy/AdvancedOptionsWindow.h"
@@ -72,6 +74,24 @@ std::unique_ptr<QDialog> everySetting()
         settings.insert(setting.key, QStringLiteral("1;1;2"));
     auto dialog = std::make_unique<UPSConfigurationWindow>(Velmora::Utils::Ups(), nullptr);
     dialog->setConfiguration(settings);
+    return dialog;
+}
+
+std::unique_ptr<QDialog> logging(UpsSocketController* link)
+{
+    auto dialog = std::make_unique<LoggingConfigurationWindow>(nullptr);
+    dialog->setSocketController(link);
+    Velmora::Utils::Ups ups;
+    ups.power_compensation = true;
+    dialog->setUps(ups);
+    return dialog;
+}
+
+std::unique_ptr<QDialog> log(UpsSocketController* /*link*/)
+{
+    auto dialog = std::make_unique<UpsLogsWindow>(nullptr);
+    dialog->setLogType(QStringLiteral("messages"));
+    dialog->setLogs({QStringLiteral("2026-03-01,12:00:05,2,on_battery")});
     return dialog;
 }
 
@@ -154,6 +174,8 @@ const DialogRow dialogRows[] = {
     {"extended information of a UPS", [](auto* /*link*/) { return extendedInformation(false); }},
     {"extended information of a genset", [](auto* /*link*/) { return extendedInformation(true); }},
     {"events before the first history", [](auto* /*link*/) { return events(""); }},
+    {"logging configuration", logging},
+    {"messages log", log},
     {"events", [](auto* /*link*/) { return events("2;3;4;5;6;7|18;3;4;5;6;7"); }},
 };
 
