@@ -24,11 +24,17 @@ bool Album::add(const QString& name, const QString& caption, const std::function
     return false;
 }
 
-bool Album::addDialog(const std::function<void()>& open, const QString& name, const QString& caption)
+bool Album::addDialog(const std::function<void()>& open, const QString& name, const QString& caption,
+                      const std::function<bool(QDialog*)>& ready)
 {
+    constexpr int fillTime = 5000;
     bool saved = false;
     const bool opened = m_panel.withDialog(open, [&](QDialog* dialog) {
-        saved = save(name, caption, dialog);
+        if (PanelDriver::waitUntil([&] { return ready(dialog); }, fillTime))
+            saved = save(name, caption, dialog);
+        else
+            std::fprintf(stderr, "velmora-screenshots: nothing came into the dialog for %s\n",
+                         qUtf8Printable(caption));
         dialog->reject();
     });
     if (!opened)

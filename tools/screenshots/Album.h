@@ -7,6 +7,8 @@
 #include <functional>
 
 class PanelDriver;
+class QDialog;
+class QWidget;
 
 /// Pictures of the panel in a folder, each told of on standard output.
 class Album final
@@ -19,9 +21,10 @@ public:
     [[nodiscard]] bool add(const QString& name, const QString& caption,
                            const std::function<bool()>& condition, int milliseconds);
 
-    /// Saves a picture of the dialog that `open` brings up, and closes it.
-    [[nodiscard]] bool addDialog(const std::function<void()>& open, const QString& name,
-                                 const QString& caption);
+    /// Saves a picture of the dialog that `open` brings up, once it is ready, and closes it.
+    [[nodiscard]] bool addDialog(
+        const std::function<void()>& open, const QString& name, const QString& caption,
+        const std::function<bool(QDialog*)>& ready = [](QDialog* /*dialog*/) { return true; });
 
 private:
     [[nodiscard]] bool save(const QString& name, const QString& caption, const QWidget* window);

@@ -12,6 +12,8 @@
 #include <QCommandLineParser>
 #include <QDialog>
 #include <QLineEdit>
+#include <QPushButton>
+#include <QTableView>
 #include <QTranslator>
 
 #include <algorithm>
@@ -107,6 +109,27 @@ bool takeDialogPictures(PanelDriver& panel, Album& album)
     });
 }
 
+// The logs open on top of the dialog that sets them.
+bool takeLogPictures(PanelDriver& panel, Album& album)
+{
+    if (!album.addDialog([&panel] { panel.trigger("loggingConfigurationButton"); },
+                         QStringLiteral("log-settings"), QStringLiteral("what is logged of a device")))
+        return false;
+    bool saved = false;
+    const auto hasColumns = [](QDialog* dialog) {
+        return dialog->findChild<QTableView*>()->model()->columnCount() > 1;
+    };
+    const auto openLog = [&](QDialog* dialog) {
+        const auto click = [dialog] {
+            dialog->findChild<QPushButton*>(QStringLiteral("showDataButton"))->click();
+        };
+        saved = album.addDialog(click, QStringLiteral("log"),
+                                QStringLiteral("measurements of a three-phase UPS"), hasColumns);
+        dialog->reject();
+    };
+    return panel.withDialog([&panel] { panel.trigger("loggingConfigurationButton"); }, openLog) && saved;
+}
+
 bool takeLossPictures(PanelDriver& panel, Album& album, ServiceProcess& service)
 {
     service.stop();
@@ -133,9 +156,9 @@ int takePictures(const QString& serviceProgram, const QString& address, const QS
     window.show();
     PanelDriver panel(&window);
     Album album(panel, folder);
-    const bool done =
-        takeDevicePictures(panel, album) &&
-        (!service || (takeDialogPictures(panel, album) && takeLossPictures(panel, album, *service)));
+    const bool done = takeDevicePictures(panel, album) &&
+                      (!service || (takeDialogPictures(panel, album) && takeLogPictures(panel, album) &&
+                                    takeLossPictures(panel, album, *service)));
     std::printf("%d devices in the tree\n", panel.deviceCount());
     return done ? 0 : 1;
 }
