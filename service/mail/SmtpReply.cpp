@@ -35,7 +35,7 @@ SmtpReplyReader::Progress SmtpReplyReader::add(const QByteArray& line)
 
 SmtpReply SmtpReplyReader::take()
 {
-    const SmtpReply reply = m_reply;
+    SmtpReply reply = m_reply;
     m_reply = SmtpReply();
     return reply;
 }

@@ -5,7 +5,6 @@
 #include <QHash>
 
 #include <algorithm>
-#include <iterator>
 
 namespace Velmora::Service {
 
@@ -38,7 +37,7 @@ struct FamilyStates
     const char* states;
 };
 
-// The first prefix that fits decides.
+// The first prefix that fits decides; all other models are simple.
 constexpr FamilyStates families[] = {
     {"Virtual_Device", threePhase},
     {"Tarvex33", threePhase},
@@ -60,7 +59,6 @@ constexpr FamilyStates families[] = {
     {"Fenna_Avr", avrTested},
     {"Cormel", simpleCormel},
     {"Quenta", simpleQuenta},
-    {"", simple},
 };
 
 struct WordStates
@@ -285,10 +283,11 @@ QStringList words(const char* text)
 
 QStringList familyStates(const QString& modelName)
 {
-    const auto* found = std::find_if(std::begin(families), std::end(families), [&](const FamilyStates& row) {
-        return modelName.startsWith(QLatin1String(row.prefix));
-    });
-    return words(found->states);
+    for (const FamilyStates& family : families) {
+        if (modelName.startsWith(QLatin1String(family.prefix)))
+            return words(family.states);
+    }
+    return words(simple);
 }
 
 QString modeState(const QString& stateWord, const QStringList& known)
