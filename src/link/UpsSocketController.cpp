@@ -172,17 +172,23 @@ void UpsSocketController::readReady()
 
 void UpsSocketController::readMessage()
 {
-    while (socket->bytesAvailable() > Utils::frameHeaderSize) {
-        const int announced = Utils::getMessegaSize(socket->read(Utils::frameHeaderSize));
+    readMessages(*socket);
+}
+
+bool UpsSocketController::readMessages(QIODevice& source)
+{
+    while (source.bytesAvailable() > Utils::frameHeaderSize) {
+        const int announced = Utils::getMessegaSize(source.read(Utils::frameHeaderSize));
         // Asking for no more than has arrived gives the same bytes and reserves nothing by an announced size.
-        const qint64 size = qBound<qint64>(0, announced, socket->bytesAvailable());
-        m_text = decryptToUtf8(socket->read(size));
+        const qint64 size = qBound<qint64>(0, announced, source.bytesAvailable());
+        m_text = decryptToUtf8(source.read(size));
         if (repeatReply(m_text))
             continue;
         QXmlStreamReader reader = readMessageBytes(m_text);
         if (!handleMessage(reader))
-            return;
+            return false;
     }
+    return true;
 }
 
 } // namespace Velmora

@@ -14,6 +14,7 @@
 
 #include <memory>
 
+class QIODevice;
 class QTimer;
 class QXmlStreamReader;
 
@@ -45,6 +46,11 @@ public:
     /// Starts attempts, one at once and one every five seconds, until a connection stands.
     void connectToServer();
     void disconectFromHost();
+
+    /// Dispatches the frames that wait in `source`; of a body that is not complete yet what has arrived.
+    /// False if a document was broken at its start, which drops the connection; the frames behind it stay
+    /// unread.
+    bool readMessages(QIODevice& source);
 
     void sendMessage(const QString& name);
     void sendMessage(const QString& name, const QByteArray& body);

@@ -3,14 +3,14 @@
 #include "link/UpsSocketController.h"
 #include "link/XmlWriter.h"
 #include "support/ScriptedService.h"
+#include "support/SignalLog.h"
 
-#include <QMetaMethod>
-#include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
 
 using namespace Velmora;
 using Tests::ScriptedService;
+using Tests::SignalLog;
 using Parameters = QMap<QString, QString>;
 
 namespace {
@@ -18,53 +18,6 @@ namespace {
 // Stands behind each tested document; its signal tells that all before it was handled.
 const QByteArray lastDocument("<service_version>last</service_version>");
 const QString lastSignal(QStringLiteral("serviceVersionReceived(last)"));
-
-// Records read as "*": what is in them is the readers' matter.
-QString textOf(const QVariant& value)
-{
-    if (!value.canConvert<QVariantList>() && !value.canConvert<QVariantMap>())
-        return value.toString();
-    QStringList parts;
-    const auto map = value.value<QVariantMap>();
-    for (auto entry = map.cbegin(); entry != map.cend(); ++entry)
-        parts += entry.key() + QLatin1Char('=') + entry->toString();
-    const auto elements = value.value<QVariantList>();
-    for (const QVariant& element : elements)
-        parts += element.canConvert<QString>() ? element.toString() : QStringLiteral("*");
-    return parts.join(QLatin1Char(','));
-}
-
-// Tells every signal of a message as "name(arguments)", in the order of the signals' declarations.
-class SignalLog final
-{
-public:
-    explicit SignalLog(const UpsSocketController& link)
-    {
-        const QMetaObject* meta = link.metaObject();
-        for (int i = meta->methodOffset(); i < meta->methodCount(); ++i) {
-            if (meta->method(i).methodType() == QMetaMethod::Signal)
-                m_spies.push_back(std::make_unique<QSignalSpy>(&link, meta->method(i)));
-        }
-    }
-
-    [[nodiscard]] QStringList entries() const
-    {
-        QStringList all;
-        for (const auto& spy : m_spies) {
-            for (const QVariantList& arguments : qAsConst(*spy)) {
-                QStringList texts;
-                for (const QVariant& argument : arguments)
-                    texts += textOf(argument);
-                const QString name = QString::fromLatin1(spy->signal()).section(QLatin1Char('('), 0, 0);
-                all += name + QLatin1Char('(') + texts.join(QLatin1Char(':')) + QLatin1Char(')');
-            }
-        }
-        return all;
-    }
-
-private:
-    std::vector<std::unique_ptr<QSignalSpy>> m_spies;
-};
 
 } // namespace
 
