@@ -7,7 +7,9 @@ get_filename_component(VELMORA_ROOT ${CMAKE_CURRENT_LIST_DIR} DIRECTORY)
 add_library(velmora-flags INTERFACE)
 target_compile_options(velmora-flags INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
-    -Woverloaded-virtual -Werror)
+    -Woverloaded-virtual -Werror
+    # The logging macros of Qt are called without further arguments, which C++20 allows.
+    $<$<CXX_COMPILER_ID:Clang>:-Wno-gnu-zero-variadic-macro-arguments>)
 target_compile_definitions(velmora-flags INTERFACE
     QT_NO_CAST_FROM_ASCII
     QT_NO_CAST_TO_ASCII
@@ -61,6 +63,7 @@ function(velmora_fuzz name)
     cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "USES")
     set(corpus ${CMAKE_CURRENT_SOURCE_DIR}/corpus/${name})
     add_executable(${name} ${name}.cpp)
+    target_include_directories(${name} PRIVATE ${VELMORA_ROOT}/tests)
     target_link_libraries(${name} PRIVATE ${ARG_USES} velmora-flags)
     add_dependencies(velmora-fuzz ${name})
     if(VELMORA_FUZZ)
