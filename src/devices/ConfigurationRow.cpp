@@ -123,6 +123,7 @@ void ConfigurationRow::buildComboBox(const UpsConfigurationPlace& place, QWidget
 void ConfigurationRow::finish(bool visible)
 {
     m_layout->setSpacing(controlSpacing);
+    m_layout->setObjectName(m_key);
     m_layout->setProperty("name", m_key);
     m_control->setProperty("originalValue", m_received);
     for (int i = 0; i < m_layout->count(); ++i) {

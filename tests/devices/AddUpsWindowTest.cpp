@@ -211,26 +211,6 @@ private slots:
         if (answer == QMessageBox::Yes)
             QCOMPARE(dialog.sent("change_ups", "reset_events_request"), QByteArray("1"));
     }
-
-    void secondOfAClassIsRefused()
-    {
-        Dialog dialog;
-        QVERIFY(dialog.connect());
-        dialog.window.setAllUpsList({device(QStringLiteral("LumoLCD_USB"), QStringLiteral("usb"))});
-        dialog.choose("QUENTA", "USB");
-        dialog.prompts.expect({QStringLiteral("Uwaga"), QMessageBox::Ok, false, {}});
-        dialog.window.show();
-        dialog.window.accept();
-        QVERIFY(dialog.prompts.allAsked() && dialog.window.isVisible());
-        QCOMPARE(dialog.service.requestCount("set_new_ups"), 0);
-        // One that stays in its class is only changed.
-        dialog.edit(device(QStringLiteral("LumoLCD_USB"), QStringLiteral("usb")));
-        dialog.choose("QUENTA", "USB");
-        dialog.prompts.expect({QStringLiteral("Uwaga"), QMessageBox::Yes, false, {}});
-        dialog.window.accept();
-        QVERIFY(dialog.service.waitForRequest("change_ups"));
-        QCOMPARE(dialog.sent("change_ups", "model_name"), QByteArray("Quenta_USB"));
-    }
 };
 
 QTEST_MAIN(AddUpsWindowTest)

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "devices/core/VirtualDeviceMembers.h"
 #include "devices/AddVirtualUpsWindow.h"
-#include "link/UpsSocketController.h"
-#include "support/ScriptedService.h"
 
 #include <QDialogButtonBox>
 #include <QPushButton>
@@ -11,7 +9,6 @@
 #include <QTreeWidget>
 
 using namespace Velmora;
-using Tests::ScriptedService;
 using Utils::Ups;
 
 namespace {
@@ -80,32 +77,6 @@ private slots:
         window.displayAvailableParallelDevices({unit("1", false)});
         QVERIFY(!window.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->isEnabled());
         QCOMPARE(window.findChild<QTreeWidget*>()->topLevelItemCount(), 1);
-    }
-
-    void changedMembersAreSent()
-    {
-        ScriptedService service;
-        UpsSocketController link;
-        link.setServerAddress(ScriptedService::testAddress());
-        QVERIFY(service.start());
-        link.connectToServer();
-        QVERIFY(service.waitForRequest("get_shutdown_timers"));
-
-        AddVirtualUpsWindow window(nullptr);
-        window.setSocketController(&link);
-        window.setUpsEdited(true);
-        window.setId(QStringLiteral("9"));
-        window.setPhyDevIncludedIntoOneVirtual({unit("1", true), unit("2", true)});
-        window.setPhyDevIncludedIntoAllVirtuals({unit("1", true), unit("2", true)});
-        window.displayAvailableParallelDevices({unit("1", true), unit("2", true), unit("3", true)});
-        auto* tree = window.findChild<QTreeWidget*>();
-        tree->topLevelItem(0)->setCheckState(0, Qt::Unchecked);
-        tree->topLevelItem(2)->setCheckState(0, Qt::Checked);
-        window.accept();
-        QVERIFY(service.waitForRequest("change_ups"));
-        const QByteArray xml = service.requests().constLast().xml;
-        QVERIFY2(xml.contains("<model_name>Virtual_Device</model_name><id>9</id>"), xml.constData());
-        QVERIFY2(xml.contains("<phy_id>2</phy_id><phy_id>3</phy_id></change_ups>"), xml.constData());
     }
 };
 

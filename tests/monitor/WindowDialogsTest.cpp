@@ -3,6 +3,7 @@
 #include "admin/ApplicationConfigurationWindow.h"
 #include "admin/LogiInWindow.h"
 #include "admin/SmtpTestWindow.h"
+#include "devices/UPSConfigurationWindow.h"
 #include "link/TextHelpers.h"
 #include "monitor/ExtendInformationWindow.h"
 #include "monitor/UpsEventsWindow.h"
@@ -10,6 +11,7 @@
 #include "support/ModalDriver.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
@@ -62,6 +64,7 @@ private slots:
     void extendedInformationFollowsTheReports();
     void eventsFollowTheReports();
     void serviceSettingsAreSavedWhole();
+    void settingReachesNoOtherDevice();
 
 private:
     void open(const char* control) const;
@@ -286,6 +289,25 @@ void WindowDialogsTest::serviceSettingsAreSavedWhole()
     QVERIFY2(saved.contains(QByteArray(mail).replace("%1", "ssl") + rest +
                             "<control_panel_path></control_panel_path>"),
              saved.constData());
+}
+
+void WindowDialogsTest::settingReachesNoOtherDevice()
+{
+    const QByteArray settings("<ups_configuration><epo>0</epo></ups_configuration>");
+    panel->window->enableAdministratorButtons();
+    QVERIFY(panel->send(settings));
+    const auto useWhileTheDeviceGoes = [&](UPSConfigurationWindow& dialog) {
+        QVERIFY(panel->send(settings));
+        dialog.findChild<QCheckBox*>()->click();
+        const auto go = [this] { QVERIFY(panel->send(deviceList({device(2, "Borel_SNMP", "B")}))); };
+        panel->prompts.expect({QStringLiteral("Uwaga"), QMessageBox::Yes, false, go, {}});
+        dialog.accept();
+    };
+    QVERIFY(driveModal<UPSConfigurationWindow>([this] { open("upsConfigurationButton"); },
+                                               useWhileTheDeviceGoes));
+    QCOMPARE(takeMessages().size(), 1);
+    QVERIFY(panel->settle());
+    QCOMPARE(panel->service.requestCount("set_ups_configuration"), 0);
 }
 
 QTEST_MAIN(WindowDialogsTest)
