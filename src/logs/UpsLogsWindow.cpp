@@ -10,6 +10,7 @@
 #include "logs/core/LogLines.h"
 #include "ui_UpsLogsWindow.h"
 
+#include <QScrollBar>
 #include <QStandardItemModel>
 
 using Velmora::ParametersHeader;
@@ -39,6 +40,8 @@ UpsLogsWindow::UpsLogsWindow(QWidget* parent)
     TableFit fit(*ui->logTable);
     fillRow(*m_plainModel, fit, 0, {tr("Brak logów do wyświetlenia")});
     showPlainModel({QString()}, fit);
+    // The table would mark a cell as the current one, although none can be picked.
+    ui->prevLog->setFocus();
     connect(ui->nextLog, &QPushButton::clicked, this, &UpsLogsWindow::nextLogButtonClickHandler);
     connect(ui->prevLog, &QPushButton::clicked, this, &UpsLogsWindow::prevLogButtonClickHandler);
     connect(ui->pushButton_3, &QPushButton::clicked, this, &UpsLogsWindow::reject);
@@ -64,6 +67,7 @@ QString UpsLogsWindow::getColumnHeader(const QString& key)
 
 void UpsLogsWindow::setLogs(const QStringList& lines)
 {
+    const int scrolled = ui->logTable->horizontalScrollBar()->value();
     clearTableModel();
     if (lines.isEmpty())
         return;
@@ -74,6 +78,9 @@ void UpsLogsWindow::setLogs(const QStringList& lines)
         showCompensation(lines);
     else if (logType == QLatin1String("parameters"))
         showParameters(lines);
+    // Whoever follows a column through the pages finds it at the same place.
+    ui->logTable->doItemsLayout();
+    ui->logTable->horizontalScrollBar()->setValue(scrolled);
 }
 
 void UpsLogsWindow::clearTableModel()
