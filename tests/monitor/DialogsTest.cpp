@@ -13,6 +13,7 @@
 #include "logs/LoggingConfigurationWindow.h"
 #include "logs/UpsLogsWindow.h"
 #include "monitor/ExtendInformationWindow.h"
+#include "monitor/ServiceRun.h"
 #include "monitor/UpsEventsWindow.h"
 #include "policy/AdvancedOptionsWindow.h"
 #include "policy/ComputerConfigurationWindow.h"
@@ -23,6 +24,7 @@
 #include "policy/PowerOffWindow.h"
 #include "policy/SendEmailWindow.h"
 #include "policy/SysCommandWindow.h"
+#include "support/ModalDriver.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -30,6 +32,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProcess>
 #include <QRegularExpression>
 #include <QScopeGuard>
 #include <QSettings>
@@ -38,6 +41,7 @@
 
 #include <functional>
 
+using namespace Velmora::Tests;
 using Velmora::UpsSocketController;
 
 namespace {
@@ -102,13 +106,6 @@ std::unique_ptr<QDialog> serviceAddress(UpsSocketController* link)
     return dialog;
 }
 
-std::unique_ptr<QDialog> mailTest()
-{
-    auto dialog = std::make_unique<SmtpTestWindow>(nullptr);
-    dialog->updateStatus(1, {});
-    return dialog;
-}
-
 std::unique_ptr<QDialog> policy(const char* configName)
 {
     Velmora::Utils::Ups device;
@@ -154,7 +151,7 @@ const DialogRow dialogRows[] = {
          return std::make_unique<ApplicationConfigurationWindow>(nullptr, QList<Velmora::Utils::Ups>(),
                                                                  QList<Velmora::Utils::Ups>(), nullptr);
      }},
-    {"mail test", [](auto* /*link*/) { return mailTest(); }},
+    {"mail test", [](auto* /*link*/) { return std::make_unique<SmtpTestWindow>(nullptr); }},
     {"download of an update", [](auto* /*link*/) { return std::make_unique<UpdateDownloadWindow>(nullptr); }},
     {"about", [](auto* /*link*/) { return std::make_unique<AboutWindow>(nullptr); }},
     {"policy of a simple device", [](auto* /*link*/) { return policy("LumoPro_Rack_RS232"); }},
@@ -179,6 +176,18 @@ const DialogRow dialogRows[] = {
     {"events", [](auto* /*link*/) { return events("2;3;4;5;6;7|18;3;4;5;6;7"); }},
 };
 
+/// Every dialog of the main window with the controls that open it.
+constexpr const char* walk[][3] = {
+    {"ExtendInformationWindow", "exInfoButton", "actionExtendInformation"},
+    {"UPSConfigurationWindow", "upsConfigurationButton", "actionUpsConfiguration"},
+    {"ApplicationConfigurationWindow", "aplicationConfigurationButton", "actionApplicationConfiguration"},
+    {"NetworkConfigurationWindow", "networkConfigurationButton", "actionNetworkConfiguration"},
+    {"LoggingConfigurationWindow", "loggingConfigurationButton", "actionLoggingConfiguration"},
+    {"UpsEventsWindow", "upsEventsButton", nullptr},
+    {"PasswordChangeWindow", "actionChangePassword", nullptr},
+    {"ConnectWithServiceWindow", "actionConnectWithService", nullptr},
+    {"AboutWindow", "actionAbout", nullptr}};
+
 /// Texts that read the same in both languages.
 const QRegularExpression sameInBoth(QStringLiteral(
     "^(OK|ON|OFF|Bypass|Dummy \\d|VAC "
@@ -194,8 +203,9 @@ QStringList& warnings()
 
 void keepWarnings(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message)
 {
-    // The platform of the tests cannot limit the size of windows; displays can.
-    if (type != QtDebugMsg && !message.contains(QLatin1String("propagateSizeHints")))
+    // The platform of the tests knows no tray and cannot limit the size of windows; displays do.
+    if (type != QtDebugMsg && !message.contains(QLatin1String("propagateSizeHints")) &&
+        !message.contains(QLatin1String("systemTrayWindowChanged")))
         warnings().append(message);
 }
 
@@ -282,6 +292,7 @@ private slots:
     void initTestCase();
     void dialogsAreSound_data();
     void dialogsAreSound();
+    void everyControlLeadsToItsDialog();
 };
 
 void DialogsTest::initTestCase()
@@ -337,6 +348,34 @@ void DialogsTest::dialogsAreSound()
             untranslated.append(texts[0].at(i));
     }
     QCOMPARE(untranslated, QStringList());
+}
+
+void DialogsTest::everyControlLeadsToItsDialog()
+{
+    const QtMessageHandler usual = qInstallMessageHandler(keepWarnings);
+    const auto restore = qScopeGuard([usual] { qInstallMessageHandler(usual); });
+    warnings().clear();
+    QProcess service;
+    QVERIFY(startService(service));
+    WindowFixture panel;
+    QVERIFY(openOnService(panel, QStringLiteral("Production hall")));
+    QVERIFY(selectDevice(panel, QStringLiteral("Production hall")));
+    QCOMPARE(logIn(panel), QStringList());
+    QTRY_VERIFY_WITH_TIMEOUT(panel.find<QAction>("actionUpsConfiguration")->isEnabled(), patience);
+    for (const auto& [dialogName, button, action] : walk) {
+        for (const char* control : {button, action}) {
+            const auto open = [object = panel.find(control)] {
+                QMetaObject::invokeMethod(object, qobject_cast<QAction*>(object) ? "trigger" : "click");
+            };
+            const auto look = [name = dialogName](const QDialog& dialog) {
+                QCOMPARE(dialog.metaObject()->className(), name);
+            };
+            QVERIFY2(!control || driveModal<QDialog>(open, look), control);
+        }
+    }
+    panel.window.reset();
+    QVERIFY(stopService(service));
+    QCOMPARE(warnings(), QStringList());
 }
 
 QTEST_MAIN(DialogsTest)

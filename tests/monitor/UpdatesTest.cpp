@@ -18,44 +18,46 @@ class UpdatesTest final : public QObject
 {
     Q_OBJECT
 
+public:
+    UpdatesTest()
+    {
+        QDir::setCurrent(m_folder.path());
+        m_web.listen(QHostAddress(ScriptedService::testAddress()));
+        connect(&m_web, &QTcpServer::newConnection, this, [this] {
+            QTcpSocket* client = m_web.nextPendingConnection();
+            connect(client, &QTcpSocket::readyRead, this, [this, client] { answer(client); });
+        });
+        m_updates.descriptor = QUrl(QStringLiteral("http://127.0.0.81:%1/new").arg(m_web.serverPort()));
+        m_updates.installerFolder = m_updates.descriptor.resolved(QUrl(QStringLiteral("/VL/")));
+        m_updates.runAndWait = [this](const QString& program, const QStringList& arguments) {
+            const QString command = program + QLatin1Char(' ') + arguments.join(QLatin1Char(' '));
+            QMetaObject::invokeMethod(this, [this, command] { m_done.append(command); });
+        };
+        m_updates.startDetached = m_updates.runAndWait;
+        m_updates.endPanel = [this] { m_updates.runAndWait(QStringLiteral("end"), {}); };
+    }
+
 private slots:
-    void initTestCase();
     void versionsAreCompared();
     void updatesAreOfferedAndFetched_data();
     void updatesAreOfferedAndFetched();
 
 private:
+    void answer(QTcpSocket* client)
+    {
+        const QByteArray path = client->readAll().split(' ').value(1);
+        if (!m_answers.contains(path))
+            return;
+        client->write("HTTP/1.1 " + m_answers.take(path));
+        client->disconnectFromHost();
+    }
+
     QTemporaryDir m_folder;
     QTcpServer m_web;
     QHash<QByteArray, QByteArray> m_answers; ///< each for one request of its path
     QStringList m_done;                      ///< commands and messages
     Velmora::UpdateEnvironment m_updates;
 };
-
-void UpdatesTest::initTestCase()
-{
-    QDir::setCurrent(m_folder.path());
-    QVERIFY(m_web.listen(QHostAddress(ScriptedService::testAddress())));
-    connect(&m_web, &QTcpServer::newConnection, this, [this] {
-        QTcpSocket* client = m_web.nextPendingConnection();
-        connect(client, &QTcpSocket::readyRead, this, [this, client] {
-            const QByteArray path = client->readAll().split(' ').value(1);
-            if (!m_answers.contains(path))
-                return;
-            client->write("HTTP/1.1 " + m_answers.take(path));
-            client->disconnectFromHost();
-        });
-    });
-    m_updates.descriptor.setUrl(QStringLiteral("http://127.0.0.81:%1/new").arg(m_web.serverPort()));
-    m_updates.installerFolder = m_updates.descriptor.resolved(QUrl(QStringLiteral("/VL/")));
-    m_updates.runAndWait = [this](const QString& program, const QStringList& arguments) {
-        const QString command = program + QLatin1Char(' ') + arguments.join(QLatin1Char(' '));
-        QMetaObject::invokeMethod(
-            this, [this, command] { m_done.append(command); }, Qt::QueuedConnection);
-    };
-    m_updates.startDetached = m_updates.runAndWait;
-    m_updates.endPanel = [this] { m_updates.runAndWait(QStringLiteral("end"), {}); };
-}
 
 void UpdatesTest::versionsAreCompared()
 {
@@ -103,22 +105,17 @@ void UpdatesTest::updatesAreOfferedAndFetched()
 
     m_answers.insert("/new", "200 OK\r\n\r\n<a><b><versionNumber>2.6.0</versionNumber></b></a>");
     panel.prompts.expect({QStringLiteral("Aktualizacja oprogramowania"), QMessageBox::Yes, false, {}});
-    const auto takeOffer = [&] {
-        check();
-        QTRY_VERIFY(panel.prompts.allAsked());
-    };
+    check();
     if (installer.isEmpty()) {
-        QVERIFY(driveModal<UpdateDownloadWindow>(takeOffer,
-                                                 [](UpdateDownloadWindow& dialog) { dialog.reject(); }));
+        const auto wait = [&] { QTRY_VERIFY(panel.prompts.allAsked()); };
+        QVERIFY(driveModal<UpdateDownloadWindow>(wait, [](auto& dialog) { dialog.reject(); }));
         check(); // nothing answers
-    } else {
-        takeOffer();
     }
     const auto outcome = [&] {
         m_done.append(takeMessages());
-        const QByteArray content = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        const QString content = QString::fromUtf8(file.open(QIODevice::ReadOnly) ? file.readAll() : "-");
         file.close();
-        return (m_done + QStringList(QString::fromUtf8(content))).join(QLatin1Char('|'));
+        return (m_done + QStringList(content)).join(QLatin1Char('|'));
     };
     const QRegExp pattern(expected, Qt::CaseSensitive, QRegExp::Wildcard);
     QTRY_VERIFY2_WITH_TIMEOUT(pattern.exactMatch(outcome()), qPrintable(outcome()), 10000);
