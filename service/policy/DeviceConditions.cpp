@@ -32,6 +32,9 @@ QString reportKey(const QString& parameter)
         key += QLatin1String("uency");
     else if (key.endsWith(QLatin1String("_temp")))
         key += QLatin1String("erature");
+    // Both strings of a battery are reported as one.
+    key.replace(QLatin1String("battery_upper"), QLatin1String("battery"));
+    key.replace(QLatin1String("battery_lower"), QLatin1String("battery"));
     return key.mid(1);
 }
 

@@ -9,10 +9,13 @@
 #include "service/store/Store.h"
 
 #include <QDateTime>
+#include <QHash>
 
 namespace Velmora::Service {
 
 namespace {
+
+constexpr int longestName = 80;
 
 QString groupName(const Policy& policy, const QString& id)
 {
@@ -23,7 +26,7 @@ QString groupName(const Policy& policy, const QString& id)
     return QStringLiteral("no group");
 }
 
-// Two events may have the same conditions, in two groups for instance.
+// Events of different groups may have the same conditions.
 QString courseKey(const Element& event)
 {
     QString key;
@@ -44,7 +47,8 @@ QString beginning(const Element& event)
 void warnOf(const Element& event, int device, const char* consequence)
 {
     qCWarning(serviceLog).noquote() << "cannot read a condition of event"
-                                    << event.childText(QLatin1String("event_state")).left(80) << "of device"
+                                    << event.childText(QLatin1String("event_state")).left(longestName)
+                                    << "of device"
                                     << QString::number(device) % QLatin1String(": ") %
                                            QLatin1String(consequence);
 }
@@ -68,79 +72,89 @@ void PolicyRunner::run(const QDateTime& time)
     std::map<int, Courses> courses;
     for (const DeviceRegistration& device : data.devices) {
         const auto policy = data.policies.constFind(device.id);
-        if (policy != data.policies.constEnd() && !policy->events.isEmpty())
-            courses[device.id] = runPolicy(device, *policy, m_courses[device.id], time);
+        if (policy == data.policies.constEnd() || policy->events.isEmpty())
+            continue;
+        const DeviceConditions conditions(device.modelName, m_backend.state(device.id));
+        courses[device.id] = runPolicy({device, *policy, conditions, time}, m_courses[device.id]);
     }
     // What was removed or changed is forgotten with what it had still to do.
     m_courses = std::move(courses);
 }
 
-PolicyRunner::Courses PolicyRunner::runPolicy(const DeviceRegistration& device, const Policy& policy,
-                                              Courses& known, const QDateTime& time)
+PolicyRunner::Courses PolicyRunner::runPolicy(const Situation& now, Courses& known)
 {
-    const DeviceConditions conditions(device.modelName, m_backend.state(device.id));
     Courses courses;
-    for (const Element& event : policy.events) {
-        const QString key = courseKey(event);
+    QHash<QString, int> twins;
+    for (const Element& event : now.policy.events) {
+        const QString conditions = courseKey(event);
+        // A policy of another panel may hold an event twice.
+        const QString key = conditions % QString::number(twins[conditions]++);
         const auto earlier = known.find(key);
-        Course course;
+        Course& course = courses[key];
         if (earlier != known.end()) {
             course = std::move(earlier->second);
-            known.erase(earlier);
         } else {
             const QString end = event.childText(QLatin1String("expressionOut"));
             course.begins = PostfixExpression::parse(beginning(event));
             course.ends = PostfixExpression::parse(end);
             if (!course.begins)
-                warnOf(event, device.id, "it never begins");
+                warnOf(event, now.device.id, "it never begins");
             else if (!course.ends && !end.isEmpty())
-                warnOf(event, device.id, "it ends when its beginning is over");
+                warnOf(event, now.device.id, "it ends when its beginning is over");
         }
-        const QString group = groupName(policy, event.childText(QLatin1String("event_parentId")));
-        runEvent(device, course, conditions, actionsOf(event, group), time,
-                 event.childText(QLatin1String("event_state")));
-        courses[key] = std::move(course);
+        runEvent(now, event, course);
     }
     return courses;
 }
 
-void PolicyRunner::runEvent(const DeviceRegistration& device, Course& course,
-                            const DeviceConditions& conditions, const QVector<PolicyAction>& actions,
-                            const QDateTime& time, const QString& name)
+void PolicyRunner::runEvent(const Situation& now, const Element& event, Course& course)
 {
-    const qint64 second = time.toSecsSinceEpoch();
-    const QString ending = QLatin1String(" (") % name % QLatin1Char(')');
-    const bool isTrue = course.begins && course.begins->isTrue(conditions);
-    // Two conditions may hold at once: then the event lasts one second.
-    const bool ended = course.since && (course.ends ? course.ends->isTrue(conditions) : !isTrue);
+    const bool isTrue = course.begins && course.begins->isTrue(now.conditions);
+    // Both conditions may hold at once: then the event lasts one second.
+    const bool ended = course.since && (course.ends ? course.ends->isTrue(now.conditions) : !isTrue);
+    const bool begins = isTrue && !course.wasTrue && (ended || !course.since);
+    course.wasTrue = isTrue;
+    if (!course.since && !begins)
+        return;
+    const QString group = groupName(now.policy, event.childText(QLatin1String("event_parentId")));
+    const QVector<PolicyAction> actions = actionsOf(event, group);
     if (ended) {
         for (const PolicyAction& action : actions) {
             if (!course.done.contains(action.name))
-                note(device, time,
-                     QLatin1String("cancelled ") % action.name % QLatin1Char(' ') % action.details % ending);
+                note(now, event,
+                     QLatin1String("cancelled ") % action.name % QLatin1Char(' ') % action.details);
         }
         course.since.reset();
     }
-    if (isTrue && !course.wasTrue && !course.since) {
-        course.since = second;
+    if (begins) {
+        course.since = now.time.toSecsSinceEpoch();
         course.done.clear();
     }
-    course.wasTrue = isTrue;
-    if (!course.since)
-        return;
+    if (course.since)
+        noteDueActions(now, event, actions, course);
+}
+
+void PolicyRunner::noteDueActions(const Situation& now, const Element& event,
+                                  const QVector<PolicyAction>& actions, Course& course)
+{
+    const qint64 age = now.time.toSecsSinceEpoch() - *course.since;
     for (const PolicyAction& action : actions) {
-        if (second - *course.since < action.delay || course.done.contains(action.name))
+        if (action.delay > age || course.done.contains(action.name))
             continue;
         course.done.append(action.name);
-        note(device, time, action.name % QLatin1Char(' ') % action.details % ending);
+        note(now, event, action.name % QLatin1Char(' ') % action.details);
     }
 }
 
-void PolicyRunner::note(const DeviceRegistration& device, const QDateTime& time, const QString& line)
+void PolicyRunner::note(const Situation& now, const Element& event, const QString& action)
 {
-    qCInfo(serviceLog).noquote() << "policy of device" << QString::number(device.id) % QLatin1Char(':')
-                                 << line.left(LogRecorder::longestAction);
-    m_logs.recordAction(device, time, line);
+    const QString name = event.childText(QLatin1String("event_state"));
+    // The name of the event stands whole behind an action that may be cut.
+    const QString line = action.left(LogRecorder::longestAction - longestName - 3) % QLatin1String(" (") %
+                         name.left(longestName) % QLatin1Char(')');
+    qCInfo(serviceLog).noquote() << "policy of device" << QString::number(now.device.id) % QLatin1Char(':')
+                                 << line;
+    m_logs.recordAction(now.device, now.time, line);
 }
 
 } // namespace Velmora::Service

@@ -49,12 +49,21 @@ private:
     };
     using Courses = std::map<QString, Course>;
 
+    /// A device and its policy at one moment.
+    struct Situation
+    {
+        const DeviceRegistration& device;
+        const Policy& policy;
+        const DeviceConditions& conditions;
+        const QDateTime& time;
+    };
+
     void run(const QDateTime& time);
-    [[nodiscard]] Courses runPolicy(const DeviceRegistration& device, const Policy& policy, Courses& known,
-                                    const QDateTime& time);
-    void runEvent(const DeviceRegistration& device, Course& course, const DeviceConditions& conditions,
-                  const QVector<PolicyAction>& actions, const QDateTime& time, const QString& name);
-    void note(const DeviceRegistration& device, const QDateTime& time, const QString& line);
+    [[nodiscard]] Courses runPolicy(const Situation& now, Courses& known);
+    void runEvent(const Situation& now, const Element& event, Course& course);
+    void noteDueActions(const Situation& now, const Element& event, const QVector<PolicyAction>& actions,
+                        Course& course);
+    void note(const Situation& now, const Element& event, const QString& action);
 
     DeviceBackend& m_backend;
     const Store& m_store;
