@@ -3,6 +3,11 @@
 
 get_filename_component(VELMORA_ROOT ${CMAKE_CURRENT_LIST_DIR} DIRECTORY)
 
+# Programs that are loaded at a random address, whatever the compiler's default is.
+include(CheckPIESupported)
+check_pie_supported()
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
 # Flags that every target of the project is built with.
 add_library(velmora-flags INTERFACE)
 target_compile_options(velmora-flags INTERFACE
@@ -20,6 +25,16 @@ target_compile_definitions(velmora-flags INTERFACE
     QT_STRICT_ITERATORS
     QT_USE_QSTRINGBUILDER
     VELMORA_VERSION="${PROJECT_VERSION}")
+
+# What ships is hardened as Debian's own packages are.
+if(CMAKE_BUILD_TYPE STREQUAL "Release")
+    target_compile_options(velmora-flags INTERFACE
+        -fstack-protector-strong -fstack-clash-protection -Wformat-security
+        $<$<STREQUAL:${CMAKE_SYSTEM_PROCESSOR},x86_64>:-fcf-protection>)
+    target_compile_definitions(velmora-flags INTERFACE _FORTIFY_SOURCE=2)
+    target_link_options(velmora-flags INTERFACE LINKER:-z,relro,-z,now)
+endif()
+
 if(VELMORA_SANITIZE)
     target_compile_options(velmora-flags INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
