@@ -44,11 +44,17 @@ QString beginning(const Element& event)
     return expression.isEmpty() && isConditionKey(state) ? state % QLatin1String(",ON,==,") : expression;
 }
 
+QString eventName(const Element& event)
+{
+    const QString name = event.childText(QLatin1String("event_state")).left(longestName);
+    if (!name.isEmpty())
+        return name;
+    return QLatin1String("event ") % event.childText(QLatin1String("event_number"));
+}
+
 void warnOf(const Element& event, int device, const char* consequence)
 {
-    qCWarning(serviceLog).noquote() << "cannot read a condition of event"
-                                    << event.childText(QLatin1String("event_state")).left(longestName)
-                                    << "of device"
+    qCWarning(serviceLog).noquote() << "cannot read a condition of" << eventName(event) << "of device"
                                     << QString::number(device) % QLatin1String(": ") %
                                            QLatin1String(consequence);
 }
@@ -148,12 +154,10 @@ void PolicyRunner::noteDueActions(const Situation& now, const Element& event,
 
 void PolicyRunner::note(const Situation& now, const Element& event, const QString& action)
 {
-    const QString name = event.childText(QLatin1String("event_state"));
-    // The name of the event stands whole behind an action that may be cut.
-    const QString line = action.left(LogRecorder::longestAction - longestName - 3) % QLatin1String(" (") %
-                         name.left(longestName) % QLatin1Char(')');
-    qCInfo(serviceLog).noquote() << "policy of device" << QString::number(now.device.id) % QLatin1Char(':')
-                                 << line;
+    // The event first: log viewers read the entry as the name of a work mode.
+    const QString line = eventName(event) % QLatin1String(": ") % action;
+    qCInfo(serviceLog).noquote() << "policy of device" << QString::number(now.device.id) % QLatin1Char(',')
+                                 << line.left(LogRecorder::longestAction);
     m_logs.recordAction(now.device, now.time, line);
 }
 

@@ -118,9 +118,10 @@ void PolicyTest::dueActionsAreLoggedAndLaterOnesCancelled()
     LogPosition position;
     // Each line twice, since the event is there twice.
     QStringList expected;
-    for (const char* line : {"05:00:20,message \"Lost; <all> \" on Default", "05:00:59,output_socket 2 off",
-                             "05:01:00,cancelled power_off shutdown on Default"}) {
-        const QString whole = QStringLiteral("2026-03-04,%1 (b)").arg(QLatin1String(line));
+    for (const char* line :
+         {"05:00:20,b: message \"Lost; <all> \" on Default", "05:00:59,b: output_socket 2 off",
+          "05:01:00,b: cancelled power_off shutdown on Default"}) {
+        const QString whole = QStringLiteral("2026-03-04,%1").arg(QLatin1String(line));
         expected << whole << whole;
     }
     QCOMPARE(logs.page(1, LogKind::Messages, LogAge::First, position), expected);
