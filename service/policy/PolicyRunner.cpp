@@ -46,7 +46,7 @@ QString beginning(const Element& event)
 
 QString eventName(const Element& event)
 {
-    const QString name = event.childText(QLatin1String("event_state")).left(longestName);
+    QString name = event.childText(QLatin1String("event_state")).left(longestName);
     if (!name.isEmpty())
         return name;
     return QLatin1String("event ") % event.childText(QLatin1String("event_number"));
