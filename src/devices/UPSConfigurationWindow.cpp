@@ -77,6 +77,8 @@ void UPSConfigurationWindow::setConfiguration(const QMap<QString, QString>& conf
     m_grid->setRowStretch(m_grid->rowCount(), 1);
     content->show();
     enableNetworkConfLineEdits(!dhcp);
+    // The tabulator key goes on from here to the rows, and from the last one to the buttons.
+    m_scrollArea->setFocus();
     growToContent();
 }
 

@@ -100,6 +100,11 @@ void PanelDriver::trigger(const char* name) const
         m_window->findChild<QAbstractButton*>(QLatin1String(name))->click();
 }
 
+bool PanelDriver::canTrigger(const char* button) const
+{
+    return m_window->findChild<QAbstractButton*>(QLatin1String(button))->isEnabled();
+}
+
 void PanelDriver::requestNewDevice() const
 {
     emit m_window->findChild<UpsTreeWidget*>()->addUpsActionTriggered();

@@ -32,6 +32,7 @@ public:
 
     /// Triggers the action or button of this object name.
     void trigger(const char* name) const;
+    [[nodiscard]] bool canTrigger(const char* button) const;
     /// Asks for a new device, or for a change of the selected one, as the tree's context menu does.
     void requestNewDevice() const;
     void requestChange() const;

@@ -9,6 +9,7 @@
 #include "screenshots/ServiceProcess.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QCommandLineParser>
 #include <QDialog>
 #include <QLineEdit>
@@ -109,6 +110,17 @@ bool takeDialogPictures(PanelDriver& panel, Album& album)
     });
 }
 
+// The settings come from the service, and so does the leave to open them.
+bool takeSettingsPicture(PanelDriver& panel, Album& album)
+{
+    const auto hasRows = [](QDialog* dialog) { return dialog->findChild<QCheckBox*>() != nullptr; };
+    return PanelDriver::waitUntil([&panel] { return panel.canTrigger("upsConfigurationButton"); },
+                                  reportTime) &&
+           album.addDialog([&panel] { panel.trigger("upsConfigurationButton"); },
+                           QStringLiteral("device-settings"), QStringLiteral("the settings of a device"),
+                           hasRows);
+}
+
 // The logs open on top of the dialog that sets them.
 bool takeLogPictures(PanelDriver& panel, Album& album)
 {
@@ -156,9 +168,10 @@ int takePictures(const QString& serviceProgram, const QString& address, const QS
     window.show();
     PanelDriver panel(&window);
     Album album(panel, folder);
-    const bool done = takeDevicePictures(panel, album) &&
-                      (!service || (takeDialogPictures(panel, album) && takeLogPictures(panel, album) &&
-                                    takeLossPictures(panel, album, *service)));
+    const bool done =
+        takeDevicePictures(panel, album) &&
+        (!service || (takeDialogPictures(panel, album) && takeSettingsPicture(panel, album) &&
+                      takeLogPictures(panel, album) && takeLossPictures(panel, album, *service)));
     std::printf("%d devices in the tree\n", panel.deviceCount());
     return done ? 0 : 1;
 }
