@@ -53,7 +53,7 @@ void DeviceSetupEndToEndTest::openPanel()
 {
     panel = std::make_unique<WindowFixture>();
     QVERIFY(openOnService(*panel, QStringLiteral("Group")));
-    panel->timer("pollTimer")->setInterval(200);
+    panel->timer("pollTimer")->setInterval(400);
     using Link = Velmora::UpsSocketController;
     connect(panel->link(), &Link::upsDeviceState, this, [this](const auto& report) { m_report = report; });
     connect(panel->link(), &Link::upsConfiguration, this, [this](const auto& map) { m_settings = map; });
