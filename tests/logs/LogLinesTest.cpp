@@ -11,50 +11,35 @@ class LogLinesTest final : public QObject
     Q_OBJECT
 
 private slots:
-    void headerIsReadFromTheNames_data();
-    void headerIsReadFromTheNames();
-    void linesMayBeRagged();
+    void headersAndRaggedLinesAreRead();
 };
 
-void LogLinesTest::headerIsReadFromTheNames_data()
+void LogLinesTest::headersAndRaggedLinesAreRead()
 {
-    QTest::addColumn<QByteArray>("line");
-    QTest::addColumn<QString>("expected"); // cells, columns / column of the work mode
-    const auto row = [](const char* name, const char* line, const char* expected) {
-        QTest::newRow(name) << QByteArray(line) << QString::fromUtf8(expected);
+    // Cells and phases as they are captioned, then the number of columns and that of the work mode.
+    const auto header = [](const char* line) {
+        const ParametersHeader read = readParametersHeader(QLatin1String(line));
+        QStringList cells;
+        for (const LogHeaderCell& cell : read.cells)
+            cells.append((QStringList(cell.caption) + cell.phases).join(u'+'));
+        return QString(cells.join(u'|') +
+                       QStringLiteral(" %1/%2").arg(read.columns).arg(read.workModeColumn));
     };
-    row("names, work mode and an unknown name", "date;time;device_status\n;new_key",
-        "Data|Czas|Tryb pracy|new_key 4/2");
-    row("three phases make a group", "input_voltage_L1;input_voltage_L2;input_voltage_L3;output_load",
-        "Napięcie wejściowe [V]+L1+L2+L3|Obciążenie [%] 4/-1");
-    row("longer names match some rows", "my_battery_voltage;my_output_load;time_on_battery_2",
-        "Napięcie akumulatorów [V]|my_output_load|Czas pracy autonomicznej [min] 3/-1");
-    row("an unfinished group swallows what follows", "date;input_pf_L1;time;input_pf_L2", "Data 4/-1");
-    row("a new group replaces it", "input_pf_L1;d_plus_L1;d_plus_L2;d_plus_L3;bypass_voltage_L1_L2_L3;time",
-        "D+ [V]+L1+L2+L3 6/-1");
-    row("phases without their group", "date;input_pf_L2;input_pf_L3;time", "Data|Czas 4/-1");
-    row("empty names count as columns", "date;;time;", "Data||Czas| 4/-1");
-}
+    QCOMPARE(header("date;time;device_status\n;new_key;"),
+             QStringLiteral("Data|Czas|Tryb pracy|new_key| 5/2"));
+    QCOMPARE(header("input_voltage_L1;input_voltage_L2;input_voltage_L3;my_output_load;my_battery_voltage"),
+             QStringLiteral("Napięcie wejściowe [V]+L1+L2+L3|my_output_load|Napięcie akumulatorów [V] 5/-1"));
+    // Unfinished groups swallow what follows and give way to the next one; phases without a group are
+    // nothing.
+    QCOMPARE(header("d_plus_L2;date;run_time_L1;time;d_plus_L1;d_plus_L2;d_plus_L3;input_pf_L1_L2_L3;time"),
+             QStringLiteral("Data|D+ [V]+L1+L2+L3 9/-1"));
 
-void LogLinesTest::headerIsReadFromTheNames()
-{
-    QFETCH(QByteArray, line);
-    const ParametersHeader header = readParametersHeader(QString::fromUtf8(line));
-    QStringList cells;
-    for (const LogHeaderCell& cell : header.cells)
-        cells.append((QStringList(cell.caption) + cell.phases).join(u'+'));
-    QTEST(QString(cells.join(u'|') + QStringLiteral(" %1/%2").arg(header.columns).arg(header.workModeColumn)),
-          "expected");
-}
-
-void LogLinesTest::linesMayBeRagged()
-{
     const auto list = [](const char* texts) { return QString::fromUtf8(texts).split(u'|'); };
-    const ParametersHeader header = readParametersHeader(QStringLiteral("date;output_load;device_status"));
-    QCOMPARE(parametersFields(QStringLiteral("d;;on_battery;4"), header), list("d||Rezerwowy"));
-    QCOMPARE(parametersFields(QStringLiteral("d;4"), header), list("d|4"));
-    QCOMPARE(messagesFields(QStringLiteral("d,,t,2,on_battery,")),
-             list("d|t|Przeciążenie zasilacza, Tryb pracy - Rezerwowy"));
+    const ParametersHeader three = readParametersHeader(QStringLiteral("date;output_load;device_status"));
+    QCOMPARE(parametersFields(QStringLiteral("d;;on_battery;4"), three), list("d||Rezerwowy"));
+    QCOMPARE(parametersFields(QStringLiteral("d;4"), three), list("d|4"));
+    QCOMPARE(messagesFields(QStringLiteral("d,,t,2,eco,")),
+             list("d|t|Przeciążenie zasilacza, Tryb pracy - ECO"));
     QCOMPARE(messagesFields(QStringLiteral("d")), list("d||"));
     QCOMPARE(compensationFields(QStringLiteral("1;;2;3;4;5;6;7;8;9")), list("1|2|3|4|5|6|7|8"));
 }

@@ -81,24 +81,6 @@ std::unique_ptr<QDialog> everySetting()
     return dialog;
 }
 
-std::unique_ptr<QDialog> logging(UpsSocketController* link)
-{
-    auto dialog = std::make_unique<LoggingConfigurationWindow>(nullptr);
-    dialog->setSocketController(link);
-    Velmora::Utils::Ups ups;
-    ups.power_compensation = true;
-    dialog->setUps(ups);
-    return dialog;
-}
-
-std::unique_ptr<QDialog> log(UpsSocketController* /*link*/)
-{
-    auto dialog = std::make_unique<UpsLogsWindow>(nullptr);
-    dialog->setLogType(QStringLiteral("messages"));
-    dialog->setLogs({QStringLiteral("2026-03-01,12:00:05,2,on_battery")});
-    return dialog;
-}
-
 std::unique_ptr<QDialog> serviceAddress(UpsSocketController* link)
 {
     auto dialog = std::make_unique<ConnectWithServiceWindow>(nullptr);
@@ -171,8 +153,9 @@ const DialogRow dialogRows[] = {
     {"extended information of a UPS", [](auto* /*link*/) { return extendedInformation(false); }},
     {"extended information of a genset", [](auto* /*link*/) { return extendedInformation(true); }},
     {"events before the first history", [](auto* /*link*/) { return events(""); }},
-    {"logging configuration", logging},
-    {"messages log", log},
+    {"logging configuration",
+     [](auto* /*link*/) { return std::make_unique<LoggingConfigurationWindow>(nullptr); }},
+    {"log", [](auto* /*link*/) { return std::make_unique<UpsLogsWindow>(nullptr); }},
     {"events", [](auto* /*link*/) { return events("2;3;4;5;6;7|18;3;4;5;6;7"); }},
 };
 
