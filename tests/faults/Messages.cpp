@@ -43,18 +43,20 @@ const QVector<QByteArray> unasked{
 // Asks for what the link does not ask by itself and, of every record that arrives, for its change.
 void answerEverything(UpsSocketController& link)
 {
-    const auto answer = [&link](auto signal, auto slot) { QObject::connect(&link, signal, &link, slot); };
+    const auto answer = [&link](auto slot, auto signal) { QObject::connect(&link, signal, &link, slot); };
     using Link = UpsSocketController;
-    answer(&Link::groupReceived, [&link](auto groups) { link.sendGroups(&groups, QStringLiteral("2")); });
-    answer(&Link::eventsReceived, [&link](auto events) { link.sendEvents(&events, QStringLiteral("2")); });
-    answer(&Link::allComputersReceived, [&link](auto computers) { link.sendAllComputers(&computers); });
-    answer(&Link::upsConfiguration, [&link](auto values) { link.setUpsConfiguration(values); });
-    answer(&Link::appConfifuratioReceived, [&link](auto settings) { link.sendAppConfiguration(&settings); });
-    answer(&Link::upsModelMessageReceived, [&link](auto devices) {
-        link.sendChangeDevice(devices.constLast());
-        link.sendDeviceData(devices.constLast());
-        link.sendChangeLogConfig(devices.constLast());
-    });
+    answer([&link](auto groups) { link.sendGroups(&groups, QStringLiteral("2")); }, &Link::groupReceived);
+    answer([&link](auto events) { link.sendEvents(&events, QStringLiteral("2")); }, &Link::eventsReceived);
+    answer([&link](auto computers) { link.sendAllComputers(&computers); }, &Link::allComputersReceived);
+    answer([&link](auto values) { link.setUpsConfiguration(values); }, &Link::upsConfiguration);
+    answer([&link](auto settings) { link.sendAppConfiguration(&settings); }, &Link::appConfifuratioReceived);
+    answer(
+        [&link](auto devices) {
+            link.sendChangeDevice(devices.constLast());
+            link.sendDeviceData(devices.constLast());
+            link.sendChangeLogConfig(devices.constLast());
+        },
+        &Link::upsModelMessageReceived);
 }
 
 void askForEverything(UpsSocketController& link)
