@@ -2,22 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "monitor/WindowFixture.h"
 
-#include <QImage>
 #include <QPlainTextEdit>
 #include <QTest>
 
 using namespace Velmora::Tests;
 
-/// Object names with what a reader sees there.
-using Controls = QVector<QPair<const char*, const char*>>;
-Q_DECLARE_METATYPE(Controls)
-
 namespace {
 
 const QByteArray goodReport =
-    stateReport("<device_status>on_battery</device_status><output_load>42</output_load>"
-                "<battery_capacity>130</battery_capacity><firmware_version>1.02</"
-                "firmware_version><messages>3</messages>");
+    stateReport("<output_load>42</output_load><battery_capacity>130</battery_capacity>"
+                "<firmware_version>1.02</firmware_version><messages>3</messages>");
 
 QByteArray messages(const char* codes)
 {
@@ -30,27 +24,6 @@ QByteArray countdown(int seconds)
            "</time></show_countdown>";
 }
 
-int pixels(const QWidget* widget, bool (*matches)(const QColor&))
-{
-    const QImage image = const_cast<QWidget*>(widget)->grab().toImage();
-    int count = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
-            count += matches(image.pixelColor(x, y)) ? 1 : 0;
-    }
-    return count;
-}
-
-bool isRed(const QColor& colour)
-{
-    return colour.red() > 180 && colour.green() < 90 && colour.blue() < 90;
-}
-
-bool isBlack(const QColor& colour)
-{
-    return colour.lightness() < 40;
-}
-
 } // namespace
 
 /// The middle of the window, from reports on the wire to what a reader sees.
@@ -60,13 +33,12 @@ class WindowStateTest final : public QObject
 
 private slots:
     void init();
-    void cleanup();
+    void cleanup() { panel.reset(); }
     void reportReachesTheControls_data();
     void reportReachesTheControls();
-    void messagesAreRedrawnOnlyWhenTheyChange();
-    void alarmsAreRed();
+    void messagesAreRedAndRedrawnOnlyWhenTheyChange();
     void failedReportsBlankTheFieldsAfterTheWatchdog();
-    void lostServiceIsShownAfterTheWatchdogAndComesBack();
+    void lostServiceIsShownAfterTheWatchdog();
     void countdownRunsDown();
 
 private:
@@ -80,86 +52,62 @@ void WindowStateTest::init()
                                     device(3, "Borel_SNMP", "G"), device(4, "Hedrix_SNMP", "H")})));
 }
 
-void WindowStateTest::cleanup()
-{
-    panel.reset();
-}
-
 void WindowStateTest::reportReachesTheControls_data()
 {
     QTest::addColumn<QString>("device");
     QTest::addColumn<QByteArray>("values");
-    QTest::addColumn<Controls>("shown");
-
-    QTest::newRow("single-phase device with every value")
-        << "U"
-        << QByteArray(
-               "<output_load>42</output_load><battery_capacity>130</battery_capacity>"
-               "<device_status>on_battery</device_status><nominal_active_power>900</nominal_active_power>"
-               "<autonomy_time>17</autonomy_time><firmware_version>1.02</firmware_version>"
-               "<temperature>31</temperature><snmp_sys_name>rack</snmp_sys_name>")
-        << Controls{{"upsBox", "UPS"},
-                    {"modelNameEdit", "Cormel RT (USB)"},
-                    {"loadLabel", "Obciążenie"},
-                    {"loadProgressBar", "42 % [42]"},
-                    {"loadProgressBar_2", "-"},
-                    {"batteryStateProgressBar", "130 % [100]"},
-                    {"workModeEdit", "Rezerwowy"},
-                    {"nominalActivePowerEdit", "900 W"},
-                    {"nominalSpuriousPowerEdit", "N/D?"},
-                    {"autonomyTimeEdit", "17 min."},
-                    {"firmwareEdit", "1.02"},
-                    {"temperatureEdit", "31 °C"},
-                    {"nameAndLocalizationEdit", "rack - <nieokreślona lokalizacja>"},
-                    {"upsEventsButton", "-"}};
-    QTest::newRow("three-phase device")
-        << "T"
-        << QByteArray("<output_load>10 ; 20;130</output_load><nominal_active_power>999</nominal_active_power>"
-                      "<nominal_spurious_power>20500</nominal_spurious_power>")
-        << Controls{{"loadLabel", "Obciążenie L1"},          {"loadLabel_2", "Obciążenie L2"},
-                    {"loadProgressBar", "10 % [10]"},        {"loadProgressBar_2", "20 % [20]"},
-                    {"loadProgressBar_3", "130 % [100]"},    {"nominalActivePowerEdit", "0 kW"},
-                    {"nominalSpuriousPowerEdit", "20 kVA"},  {"workModeEdit", "N/D"},
-                    {"batteryStateProgressBar", "N/D [0]?"}, {"nameAndLocalizationEdit", "-"},
-                    {"upsEventsButton", "Zdarzenia"}};
-    QTest::newRow("genset") << "G"
-                            << QByteArray("<fuel_level>73</fuel_level><serial_number>B-7</serial_number>"
-                                          "<tot_fuel_consum>812</tot_fuel_consum><run_time>91</run_time>")
-                            << Controls{{"upsBox", "Agregat"},
-                                        {"modelNameLabel", "Typ urządzenia"},
-                                        {"firmwareLabel", "Model sterownika"},
-                                        {"nominalActivePowerLabel", "Numer seryjny sterownika"},
-                                        {"nominalActivePowerEdit", "B-7"},
-                                        {"workModeLabel", "Tryb pracy agregatu"},
-                                        {"batteryStateLabel", "Poziom paliwa"},
-                                        {"batteryStateProgressBar", "73 % [73]"},
-                                        {"autonomyTimeLabel", "Całkowite zużycie paliwa"},
-                                        {"autonomyTimeEdit", "812 l"},
-                                        {"temperatureLabel", "Całkowity czas pracy"},
-                                        {"temperatureEdit", "91 h"},
-                                        {"upsConfigurationButton", "Konfiguracja agregatu"},
-                                        {"deviceText", "Połączono z agregatem"}};
+    QTest::addColumn<QString>("shown"); // object names with what a reader sees there
+    const auto row = [](const char* name, const char* device, const char* values, const char* shown) {
+        QTest::newRow(name) << QString::fromLatin1(device) << QByteArray(values) << QString::fromUtf8(shown);
+    };
+    row("single-phase device with every value", "U",
+        "<output_load>42</output_load><battery_capacity>130</battery_capacity>"
+        "<device_status>on_battery</device_status><nominal_active_power>900</nominal_active_power>"
+        "<autonomy_time>17</autonomy_time><firmware_version>1.02</firmware_version>"
+        "<temperature>31</temperature><snmp_sys_name>rack</snmp_sys_name>",
+        "upsBox=UPS|modelNameEdit=Cormel RT (USB)|loadLabel=Obciążenie|loadProgressBar=42 % [42]|"
+        "loadProgressBar_2=-|batteryStateProgressBar=130 % [100]|workModeEdit=Rezerwowy|"
+        "nominalActivePowerEdit=900 W|nominalSpuriousPowerEdit=N/D?|autonomyTimeEdit=17 min.|"
+        "firmwareEdit=1.02|temperatureEdit=31 °C|upsEventsButton=-|"
+        "nameAndLocalizationEdit=rack - <nieokreślona lokalizacja>");
+    row("three-phase device", "T",
+        "<output_load>10 ; 20;130</output_load><nominal_spurious_power>20500</nominal_spurious_power>",
+        "loadLabel=Obciążenie L1|loadLabel_2=Obciążenie L2|loadProgressBar=10 % [10]|"
+        "loadProgressBar_2=20 % [20]|loadProgressBar_3=130 % [100]|nominalSpuriousPowerEdit=20 kVA|"
+        "workModeEdit=N/D|batteryStateProgressBar=N/D [0]?|nameAndLocalizationEdit=-|"
+        "upsEventsButton=Zdarzenia");
+    row("genset", "G",
+        "<fuel_level>73</fuel_level><serial_number>B-7</serial_number>"
+        "<tot_fuel_consum>812</tot_fuel_consum><run_time>91</run_time>",
+        "upsBox=Agregat|modelNameLabel=Typ urządzenia|firmwareLabel=Model sterownika|"
+        "nominalActivePowerLabel=Numer seryjny sterownika|nominalActivePowerEdit=B-7|"
+        "workModeLabel=Tryb pracy agregatu|batteryStateLabel=Poziom paliwa|"
+        "batteryStateProgressBar=73 % [73]|autonomyTimeLabel=Całkowite zużycie paliwa|"
+        "autonomyTimeEdit=812 l|temperatureLabel=Całkowity czas pracy|temperatureEdit=91 h|"
+        "upsConfigurationButton=Konfiguracja agregatu|deviceText=Połączono z agregatem");
 }
 
 void WindowStateTest::reportReachesTheControls()
 {
     QFETCH(QString, device);
     QFETCH(QByteArray, values);
-    QFETCH(Controls, shown);
+    QFETCH(QString, shown);
     // By way of the others, so that what belongs to them must be taken back.
     for (const QString& row : {QStringLiteral("G"), QStringLiteral("T"), QStringLiteral("H"), device})
         panel->tree()->setCurrentItem(panel->row(row));
     QVERIFY(panel->send(stateReport(values)));
-    for (const auto& [control, text] : shown)
-        QVERIFY2(panel->shown(control) == QString::fromUtf8(text),
-                 qPrintable(QLatin1String(control) + QLatin1String(" shows ") + panel->shown(control)));
+    for (const QString& entry : shown.split(QLatin1Char('|'))) {
+        const QString control = entry.section(QLatin1Char('='), 0, 0);
+        QCOMPARE(QString(control + QLatin1Char('=') + panel->shown(qPrintable(control))), entry);
+    }
 }
 
-void WindowStateTest::messagesAreRedrawnOnlyWhenTheyChange()
+void WindowStateTest::messagesAreRedAndRedrawnOnlyWhenTheyChange()
 {
     auto* box = panel->find<QPlainTextEdit>("deviceMessages");
     QVERIFY(panel->send(messages("3\n0\n7")));
     QCOMPARE(box->toPlainText().count(QLatin1Char('\n')), 2);
+    QCOMPARE(box->palette().color(QPalette::Text), QColor(220, 20, 20));
     int redrawn = 0;
     connect(box, &QPlainTextEdit::textChanged, box, [&redrawn] { ++redrawn; });
     QVERIFY(panel->send(messages("3\n\n0\n7")));
@@ -167,28 +115,14 @@ void WindowStateTest::messagesAreRedrawnOnlyWhenTheyChange()
     QVERIFY(panel->send(messages("3\n7\n0")));
     QVERIFY(redrawn > 0);
 
-    const QString none = QStringLiteral("Brak");
-    QVERIFY(panel->send(goodReport));
-    QVERIFY(box->toPlainText() != none);
     QVERIFY(panel->send(stateReport("<output_load>1</output_load>")));
-    QCOMPARE(box->toPlainText(), none);
-    QVERIFY(panel->send(goodReport));
-    QVERIFY2(box->toPlainText() != none, "the codes from before an empty report are drawn anew");
-
+    QCOMPARE(box->toPlainText(), QStringLiteral("Brak"));
+    QVERIFY(panel->send(messages("3\n7\n0")));
+    QVERIFY2(box->toPlainText() != QLatin1String("Brak"), "codes are drawn anew behind an empty report");
     redrawn = 0;
     panel->tree()->setCurrentItem(panel->row(QStringLiteral("T")));
-    QVERIFY(panel->send(goodReport));
+    QVERIFY(panel->send(messages("3\n7\n0")));
     QVERIFY2(redrawn > 0, "the same codes of another device are drawn anew");
-}
-
-void WindowStateTest::alarmsAreRed()
-{
-    const auto* box = panel->find<QPlainTextEdit>("deviceMessages");
-    QVERIFY(panel->send(stateReport("<output_load>1</output_load>")));
-    QCOMPARE(pixels(box->viewport(), isRed), 0);
-    QVERIFY(panel->send(messages("3")));
-    QVERIFY(pixels(box->viewport(), isRed) > 20);
-    QCOMPARE(pixels(box->viewport(), isBlack), 0);
 }
 
 void WindowStateTest::failedReportsBlankTheFieldsAfterTheWatchdog()
@@ -197,7 +131,6 @@ void WindowStateTest::failedReportsBlankTheFieldsAfterTheWatchdog()
     QTimer* watchdog = panel->timer("communicationFailedTimer");
     QVERIFY(panel->send(goodReport));
     QVERIFY(!watchdog->isActive());
-
     QVERIFY(panel->send(failed));
     QCOMPARE(panel->shown("loadProgressBar"), QStringLiteral("42 % [42]"));
     QCOMPARE(watchdog->interval(), 3000);
@@ -213,77 +146,58 @@ void WindowStateTest::failedReportsBlankTheFieldsAfterTheWatchdog()
     QCOMPARE(panel->shown("serviceTitle"), QStringLiteral("Połączono z usługą:"));
     QCOMPARE(panel->shown("firmwareEdit"), QString());
     QCOMPARE(panel->shown("loadProgressBar"), QStringLiteral(" [0]"));
-    QCOMPARE(panel->shown("modelNameEdit"), QStringLiteral("Cormel RT (USB)"));
     QCOMPARE(panel->shown("deviceMessages"), QStringLiteral("-"));
     QVERIFY(!panel->find<QWidget>("exInfoButton")->isEnabled());
-
     QVERIFY(panel->send(goodReport));
     QCOMPARE(panel->shown("loadProgressBar"), QStringLiteral("42 % [42]"));
     QCOMPARE(panel->shown("deviceText"), QStringLiteral("Połączono z UPS"));
     QVERIFY(panel->find<QWidget>("deviceMessages")->isVisible());
 }
 
-void WindowStateTest::lostServiceIsShownAfterTheWatchdogAndComesBack()
+void WindowStateTest::lostServiceIsShownAfterTheWatchdog()
 {
-    panel->tree()->setCurrentItem(panel->row(QStringLiteral("T")));
-    QVERIFY(panel->send(statusList({{1, "on_power_line"}, {2, "on_power_line*"}, {3, "genset_on"}})));
-    QVERIFY(panel->send(goodReport));
-    QVERIFY(panel->send("<debugging_enabled/>"));
-    QVERIFY(panel->send(countdown(100)));
+    for (const QByteArray& document : {statusList({{1, "on_power_line"}, {3, "genset_on"}}), goodReport,
+                                       QByteArray("<debugging_enabled/>"), countdown(100)})
+        QVERIFY(panel->send(document));
     panel->window->enableAdministratorButtons();
     QTimer* watchdog = panel->timer("socketErrorTimer");
-
     panel->service.stop();
     QTRY_VERIFY(watchdog->isActive());
     QCOMPARE(watchdog->interval(), 3000);
     QCOMPARE(panel->shown("loadProgressBar"), QStringLiteral("42 % [42]"));
     QVERIFY(panel->rowShows(panel->row(QStringLiteral("U")), "green"));
-    watchdog->setInterval(1);
 
+    watchdog->setInterval(1);
     QTRY_COMPARE(panel->shown("serviceTitle"), QStringLiteral("Błąd połączenia z usługą:"));
-    for (const UpsTreeElement* row : panel->tree()->allElements())
-        QVERIFY(panel->rowShows(row, "red"));
-    QCOMPARE(panel->tree()->currentElement(), panel->row(QStringLiteral("T")));
+    QVERIFY(panel->rowShows(panel->row(QStringLiteral("U")), "red"));
     QCOMPARE(panel->shown("loadProgressBar"), QStringLiteral(" [0]"));
-    QCOMPARE(panel->shown("firmwareEdit"), QString());
     QCOMPARE(panel->shown("countdownText"), QStringLiteral("-"));
     QVERIFY(!panel->timer("countdownTimer")->isActive());
-    QVERIFY2(!panel->window->windowTitle().contains(QLatin1Char('[')) &&
-                 !panel->window->windowTitle().contains(QLatin1Char('(')),
-             "neither debug marker nor administrator mode outlive the link");
+    // Neither debug marker nor administrator mode outlive the link.
+    QCOMPARE(panel->window->windowTitle(), QStringLiteral("Velmora Professional v. " VELMORA_VERSION));
     QVERIFY(!panel->find<QWidget>("networkConfigurationButton")->isEnabled());
-
-    panel->service.replyTo("get_ups_current_status_list", statusList({{1, "on_battery"}}));
-    panel->service.replyTo("get_ups_device_state", goodReport);
-    QVERIFY(panel->service.start());
-    QTRY_VERIFY(panel->timer("reconnectTimer"));
-    panel->timer("reconnectTimer")->setInterval(50);
-    QTRY_COMPARE(panel->shown("loadProgressBar"), QStringLiteral("42 % [42]"));
-    QCOMPARE(panel->shown("serviceTitle"), QStringLiteral("Połączono z usługą:"));
-    QVERIFY(panel->rowShows(panel->row(QStringLiteral("U")), "yellow"));
-    QCOMPARE(panel->tree()->currentElement(), panel->row(QStringLiteral("T")));
-    QVERIFY(!watchdog->isActive());
 }
 
 void WindowStateTest::countdownRunsDown()
 {
+    const auto shown = [this] { return panel->shown("countdownText"); };
     QVERIFY(panel->send(goodReport));
     QTimer* clock = panel->timer("countdownTimer");
     QVERIFY(panel->send(countdown(100)));
-    QCOMPARE(panel->shown("countdownText"), QStringLiteral("Wyłączenie za 99 s"));
+    QCOMPARE(shown(), QStringLiteral("Wyłączenie za 99 s"));
     QCOMPARE(clock->interval(), 1000);
     QVERIFY(panel->send(countdown(20)));
-    QCOMPARE(panel->shown("countdownText"), QStringLiteral("Wyłączenie za 98 s"));
+    QCOMPARE(shown(), QStringLiteral("Wyłączenie za 98 s"));
     QVERIFY(panel->send(countdown(-1)));
     QVERIFY(panel->send(countdown(3)));
     clock->setInterval(1);
-    QTRY_COMPARE(panel->shown("countdownText"), QStringLiteral("-"));
+    QTRY_COMPARE(shown(), QStringLiteral("-"));
     QVERIFY(!clock->isActive());
     clock->setInterval(1000);
     QVERIFY(panel->send(countdown(9)));
-    QCOMPARE(panel->shown("countdownText"), QStringLiteral("Wyłączenie za 8 s"));
+    QCOMPARE(shown(), QStringLiteral("Wyłączenie za 8 s"));
     QVERIFY(panel->send("<show_countdown></show_countdown>"));
-    QCOMPARE(panel->shown("countdownText"), QStringLiteral("-"));
+    QCOMPARE(shown(), QStringLiteral("-"));
 }
 
 QTEST_MAIN(WindowStateTest)
