@@ -19,16 +19,6 @@ using Velmora::Utils::Ups;
 
 namespace {
 
-Ups device(const QString& configName, const QString& communication)
-{
-    Ups ups;
-    ups.id = QStringLiteral("7");
-    ups.model_name = configName;
-    ups.communication = communication;
-    ups.user_defined_name = QStringLiteral("Serwer");
-    return ups;
-}
-
 // The dialog on a link that stands, driven by its controls' names.
 struct Dialog
 {
@@ -50,19 +40,17 @@ struct Dialog
         return service.waitForRequest("get_shutdown_timers");
     }
 
-    void edit(const Ups& ups)
+    void edit(const char* configName, const char* communication, const char* port = "")
     {
         window.setUpsEdited(true);
-        window.setUpsName(ups.user_defined_name);
-        window.setModel(ups.model_name);
-        window.setId(ups.id);
-        window.setCommunication(ups.communication);
-        window.setComPort(ups.com_port);
-        window.setIpAddress(ups.ip);
-        window.setWriteCommunity(ups.write);
-        window.setReadCommunity(ups.read);
-        window.setSnmpVerion(ups.snmp_ver);
-        window.setSerialNumber(ups.serial_no);
+        window.setUpsName(QStringLiteral("Serwer"));
+        window.setModel(QLatin1String(configName));
+        window.setId(QStringLiteral("7"));
+        window.setCommunication(QLatin1String(communication));
+        window.setComPort(QLatin1String(port));
+        Ups ups;
+        ups.id = QStringLiteral("7");
+        ups.model_name = QLatin1String(configName);
         window.setAllUpsList({ups});
     }
 
@@ -163,53 +151,38 @@ private slots:
     void changeIsSavedOnlyIfThereIsOne()
     {
         Dialog dialog;
-        Ups ups = device(QStringLiteral("Cormel_RS232"), QStringLiteral("rs232"));
-        ups.com_port = QStringLiteral("/dev/ttyS0");
-        dialog.edit(ups);
+        dialog.edit("Cormel_RS232", "rs232", "/dev/ttyS0");
         QVERIFY(!dialog.canSave());
         dialog.name(QStringLiteral("serwer"));
         QVERIFY(dialog.canSave()); // on its own port, which is in use
-        dialog.name(ups.user_defined_name);
+        dialog.name(QStringLiteral("Serwer"));
         QVERIFY(!dialog.canSave());
-    }
-
-    void whatIsGoneIsNotReplacedSilently()
-    {
-        Dialog dialog;
-        Ups ups = device(QStringLiteral("Cormel_RS232"), QStringLiteral("rs232"));
-        ups.com_port = QStringLiteral("/dev/ttyS9");
-        dialog.edit(ups);
+        // A port or model that is gone is not replaced silently.
+        dialog.edit("Cormel_RS232", "rs232", "/dev/ttyS9");
         dialog.name(QStringLiteral("other"));
         QVERIFY(!dialog.canSave());
-        dialog.edit(device(QStringLiteral("Ferron_7_USB"), QStringLiteral("usb")));
+        dialog.edit("Ferron_7_USB", "usb");
         dialog.name(QStringLiteral("third"));
         QVERIFY(!dialog.canSave());
     }
 
-    void anotherTypeAsksForItsEvents_data()
-    {
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<int>("changes");
-        QTest::newRow("yes sends the change with a reset") << int(QMessageBox::Yes) << 1;
-        QTest::newRow("no drops the change and closes") << int(QMessageBox::No) << 0;
-        QTest::newRow("so does a program that quits") << int(QMessageBox::NoButton) << 0;
-    }
-
     void anotherTypeAsksForItsEvents()
     {
-        QFETCH(int, answer);
-        Dialog dialog;
-        QVERIFY(dialog.connect());
-        dialog.edit(device(QStringLiteral("Tarvex33_USB"), QStringLiteral("usb")));
-        dialog.choose("HEDRIX", "USB");
-        dialog.prompts.expect({QStringLiteral("Uwaga"), QMessageBox::StandardButton(answer), false, {}});
-        dialog.window.accept();
-        QVERIFY(dialog.prompts.allAsked());
-        QVERIFY(dialog.service.waitForRequest("get_available_ports", 2));
-        QTEST(dialog.service.requestCount("change_ups"), "changes");
-        QCOMPARE(dialog.window.result(), int(QDialog::Accepted));
-        if (answer == QMessageBox::Yes)
-            QCOMPARE(dialog.sent("change_ups", "reset_events_request"), QByteArray("1"));
+        // No drops the change and closes, and so does a program that quits.
+        for (const auto answer : {QMessageBox::Yes, QMessageBox::No, QMessageBox::NoButton}) {
+            Dialog dialog;
+            QVERIFY(dialog.connect());
+            dialog.edit("Tarvex33_USB", "usb");
+            dialog.choose("HEDRIX", "USB");
+            dialog.prompts.expect({QStringLiteral("Uwaga"), answer, false, {}});
+            dialog.window.accept();
+            QVERIFY(dialog.prompts.allAsked());
+            QVERIFY(dialog.service.waitForRequest("get_available_ports", 2));
+            QCOMPARE(dialog.service.requestCount("change_ups"), answer == QMessageBox::Yes ? 1 : 0);
+            QCOMPARE(dialog.window.result(), int(QDialog::Accepted));
+            if (answer == QMessageBox::Yes)
+                QCOMPARE(dialog.sent("change_ups", "reset_events_request"), QByteArray("1"));
+        }
     }
 };
 

@@ -13,14 +13,19 @@ using Utils::Ups;
 
 namespace {
 
-Ups unit(const char* id, bool reports)
+/// Units by their ids; "!" behind it marks one that reports, "-" stands for none.
+QList<Ups> units(const QByteArray& ids)
 {
-    Ups ups;
-    ups.id = QLatin1String(id);
-    ups.model_name = QStringLiteral("Tarvex33_SNMP");
-    ups.parallel_unit = reports;
-    ups.unit_address = QLatin1String("a") + ups.id;
-    return ups;
+    QList<Ups> all;
+    for (const QString& id : QString::fromLatin1(ids).split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        Ups ups;
+        ups.id = id.startsWith(QLatin1Char('-')) ? QString() : id.left(1);
+        ups.model_name = QStringLiteral("Tarvex33_SNMP");
+        ups.parallel_unit = id.endsWith(QLatin1Char('!'));
+        ups.unit_address = QLatin1String("a") + ups.id;
+        all.append(ups);
+    }
+    return all;
 }
 
 } // namespace
@@ -32,39 +37,25 @@ class VirtualDeviceMembersTest final : public QObject
 private slots:
     void rowsTellWhatCanBePicked_data()
     {
-        QTest::addColumn<QList<Ups>>("all");
-        QTest::addColumn<QList<Ups>>("ofAllVirtuals");
-        QTest::addColumn<QList<Ups>>("members");
-        QTest::addColumn<QString>("rows"); // id, state, enabled and checked of each
-        const QList<Ups> none;
-        QTest::newRow("nothing reports and nothing is taken")
-            << QList<Ups>{unit("1", false)} << none << none << "";
-        QTest::newRow("a free unit is offered while it reports")
-            << QList<Ups>{unit("1", true), unit("2", false)} << none << none << "1:3e";
-        QTest::newRow("a silent member stays picked")
-            << QList<Ups>{unit("1", false)} << QList<Ups>{unit("1", false)} << QList<Ups>{unit("1", false)}
-            << "1:4ec";
-        QTest::newRow("a reporting member, listed twice, is available once")
-            << QList<Ups>{unit("1", true), unit("1", true)} << QList<Ups>{unit("1", true)}
-            << QList<Ups>{unit("1", true)} << "1:3ec";
-        QTest::newRow("units of others are seen but not taken")
-            << QList<Ups>{unit("1", true), unit("2", false), unit("3", true)}
-            << QList<Ups>{unit("1", true), unit("2", false)} << none << "1:1|2:0|3:3e";
-        QTest::newRow("a unit of two virtual devices is picked once")
-            << QList<Ups>{unit("1", true)} << QList<Ups>{unit("1", true), unit("1", true)}
-            << QList<Ups>{unit("1", true)} << "1:3ec|1:0";
-        QTest::newRow("units without an id never match each other")
-            << QList<Ups>{unit("", true)} << QList<Ups>{unit("", false), unit("", false)}
-            << QList<Ups>{unit("", false)} << ":0|:0|:3e";
+        QTest::addColumn<QByteArrayList>("units"); // all, those of all virtual devices, members
+        QTest::addColumn<QString>("rows");         // id, state, enabled and checked of each
+        const auto row = [](const char* name, const QByteArrayList& units, const char* rows) {
+            QTest::newRow(name) << units << QString::fromLatin1(rows);
+        };
+        row("a free unit is offered while it reports", {"1! 2", "", ""}, "1:3e");
+        row("a silent member stays picked", {"1", "1", "1"}, "1:4ec");
+        row("a reporting member, listed twice, is available once", {"1! 1!", "1!", "1!"}, "1:3ec");
+        row("units of others are seen but not taken", {"1! 2 3!", "1! 2", ""}, "1:1|2:0|3:3e");
+        row("a unit of two virtual devices is picked once", {"1!", "1! 1!", "1!"}, "1:3ec|1:0");
+        row("units without an id never match each other", {"-!", "- -", "-"}, ":0|:0|:3e");
     }
 
     void rowsTellWhatCanBePicked()
     {
-        QFETCH(QList<Ups>, all);
-        QFETCH(QList<Ups>, ofAllVirtuals);
-        QFETCH(QList<Ups>, members);
+        QFETCH(QByteArrayList, units);
         QStringList rows;
-        for (const VirtualMemberRow& row : virtualMemberRows(all, ofAllVirtuals, members)) {
+        for (const VirtualMemberRow& row :
+             virtualMemberRows(::units(units.at(0)), ::units(units.at(1)), ::units(units.at(2)))) {
             rows.append(row.id + QLatin1Char(':') + QString::number(static_cast<int>(row.state)) +
                         QLatin1String(row.enabled ? "e" : "") + QLatin1String(row.checked ? "c" : ""));
         }
@@ -74,7 +65,7 @@ private slots:
     void nothingToPickCannotBeSaved()
     {
         AddVirtualUpsWindow window(nullptr);
-        window.displayAvailableParallelDevices({unit("1", false)});
+        window.displayAvailableParallelDevices(units("1"));
         QVERIFY(!window.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->isEnabled());
         QCOMPARE(window.findChild<QTreeWidget*>()->topLevelItemCount(), 1);
     }

@@ -71,8 +71,7 @@ void InformationWindowsTest::gridShowsTheReports_data()
 
     row("the catalogue's order, three to the line, and a blank even without a unit", false,
         "fuel_level=70,snmp_sys_name=<b>a</b>,mac_address=00:00:5E:00:53:01,input_voltage=230.1",
-        "0/0 Napięcie wejściowe: 230.1 V.|0/1 Adres MAC: 00:00:5E:00:53:01 .|0/2 Nazwa urządzenia: <b>a</b> "
-        ".|"
+        "0/0 Napięcie wejściowe: 230.1 V.|0/1 Adres MAC: 00:00:5E:00:53:01 .|0/2 Poziom paliwa: 70 %.|"
         "1/0 Nazwa urządzenia: <b>a</b> .");
     row("a genset measures the mains", true, "input_voltage=230,input_frequency=50,output_voltage=231",
         "0/0 Napięcie fazowe w sieci elektrycznej: 230 V.|0/1 Częstotliwość w sieci elektrycznej: 50 Hz.|"

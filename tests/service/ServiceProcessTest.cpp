@@ -17,7 +17,6 @@ class ServiceProcessTest final : public QObject
     Q_OBJECT
 
 private slots:
-    void badStartEndsWithOneLine_data();
     void badStartEndsWithOneLine();
     void signalEndsItCleanly();
     void killLosesNothingThatWasShown();
@@ -36,44 +35,37 @@ void ServiceProcessTest::start(QProcess& process, const QStringList& arguments)
     QCOMPARE(process.readLine(), "velmora-service 2.5.1 listens on " + ownAddress().toLatin1() + ":12323\n");
 }
 
-void ServiceProcessTest::badStartEndsWithOneLine_data()
-{
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<QString>("named");
-    const auto row = [](const char* name, const char* arguments, const char* named) {
-        QTest::newRow(name) << QString::fromLatin1(arguments) << QString::fromLatin1(named);
-    };
-    row("unknown option", "--port 5", "port");
-    row("stray argument", "here", "here");
-    row("address that is none", "--listen nowhere", "nowhere");
-    row("address of another machine", "--listen 192.0.2.1", "192.0.2.1:12323");
-    row("port that is taken", "--seed 2", ":12323");
-    row("negative seed", "--seed -1", "-1");
-    row("speed of nothing", "--speed 0", "speed");
-    row("speed that is no number", "--speed nan", "nan");
-    row("unknown log level", "--log-level loud", "loud");
-    row("no file name", "--scenario=", "scenario");
-    row("scenario that is not there", "--scenario /no/such.json", "/no/such.json");
-    row("state in a folder that is not there", "--state /no/state.json", "/no/state.json");
-}
-
 void ServiceProcessTest::badStartEndsWithOneLine()
 {
-    QFETCH(QString, arguments);
-    QFETCH(QString, named);
     QTcpServer other;
     QVERIFY(other.listen(QHostAddress(ownAddress()), Velmora::servicePort));
-    QProcess process;
-    process.start(QStringLiteral(VELMORA_SERVICE_PROGRAM),
-                  QStringList{QStringLiteral("--listen"), ownAddress()} + arguments.split(QLatin1Char(' ')));
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(process.exitCode(), 2);
-    const QString error = QString::fromUtf8(process.readAllStandardError());
-    QVERIFY2(error.startsWith(QLatin1String("velmora-service: ")) && error.contains(named) &&
-                 error.count(QLatin1Char('\n')) == 1,
-             qPrintable(error));
-    QVERIFY(process.readAllStandardOutput().isEmpty());
+    // Arguments and what the error names; the port of the own address is taken.
+    const QVector<QPair<const char*, QString>> rows{
+        {"--port 5", QStringLiteral("port")},
+        {"here", QStringLiteral("here")},
+        {"--listen nowhere", QStringLiteral("nowhere")},
+        {"--listen 192.0.2.1", QStringLiteral("192.0.2.1:12323")},
+        {"--seed 2", ownAddress() + QLatin1String(":12323")},
+        {"--seed -1", QStringLiteral("-1")},
+        {"--speed 0", QStringLiteral("speed")},
+        {"--speed nan", QStringLiteral("nan")},
+        {"--log-level loud", QStringLiteral("loud")},
+        {"--scenario=", QStringLiteral("scenario")},
+        {"--scenario /no/such.json", QStringLiteral("/no/such.json")},
+        {"--state /no/state.json", QStringLiteral("/no/state.json")}};
+    for (const auto& [arguments, named] : rows) {
+        QProcess process;
+        process.start(QStringLiteral(VELMORA_SERVICE_PROGRAM),
+                      QStringList{QStringLiteral("--listen"), ownAddress()} +
+                          QString::fromLatin1(arguments).split(QLatin1Char(' ')));
+        QVERIFY(process.waitForFinished());
+        QVERIFY2(process.exitStatus() == QProcess::NormalExit && process.exitCode() == 2, arguments);
+        const QString error = QString::fromUtf8(process.readAllStandardError());
+        QVERIFY2(error.startsWith(QLatin1String("velmora-service: ")) && error.contains(named) &&
+                     error.count(QLatin1Char('\n')) == 1,
+                 qPrintable(error));
+        QVERIFY(process.readAllStandardOutput().isEmpty());
+    }
 }
 
 void ServiceProcessTest::signalEndsItCleanly()
