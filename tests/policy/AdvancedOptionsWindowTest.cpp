@@ -7,7 +7,6 @@
 #include "support/ScriptedPrompts.h"
 
 #include <QListWidget>
-#include <QSettings>
 #include <QTextEdit>
 
 using namespace Velmora::Tests;
@@ -62,7 +61,6 @@ private slots:
     void initTestCase() { Q_INIT_RESOURCE(velmora); }
     void conditionsAreClickedTogether_data();
     void conditionsAreClickedTogether();
-    void entriesAreRefusedInOrder_data();
     void entriesAreRefusedInOrder();
     void whatCannotBeReadIsShown();
 
@@ -73,24 +71,17 @@ private:
 void AdvancedOptionsWindowTest::conditionsAreClickedTogether_data()
 {
     QTest::addColumn<QString>("model");
-    QTest::addColumn<QString>("language");
     for (const auto& model : Velmora::Utils::getAllSuportedModelList()) {
-        for (const char* language : {"polish", "english"}) {
-            if (Velmora::hasAdvancedEventOptions(model.configName))
-                QTest::addRow("%s in %s", qPrintable(model.configName), language)
-                    << model.configName << QString::fromLatin1(language);
-        }
+        if (Velmora::hasAdvancedEventOptions(model.configName))
+            QTest::newRow(qPrintable(model.configName)) << model.configName;
     }
 }
 
 void AdvancedOptionsWindowTest::conditionsAreClickedTogether()
 {
     QFETCH(QString, model);
-    QFETCH(QString, language);
-    QSettings(qEnvironmentVariable("VELMORA_CONTROL_PANEL_INI"), QSettings::IniFormat)
-        .setValue(QStringLiteral("language"), language);
     const QString path = Velmora::eventDefinitionsPath(model);
-    const QStringList keys = Velmora::readEventDefinitions(path, device(model), language).eventKeys;
+    const QStringList keys = Velmora::readEventDefinitions(path, device(model), {}).eventKeys;
     const QString first = keys.constFirst();
     const QString last = keys.constLast();
     const bool numeric = last.startsWith(QLatin1String("param"));
@@ -101,17 +92,16 @@ void AdvancedOptionsWindowTest::conditionsAreClickedTogether()
         typeInto(dialog, "filterIn", QLatin1String(pattern));
         QCOMPARE(find<QListWidget>(dialog, "eventStatesListIn")->count(), *pattern ? 0 : keys.size());
     }
-    const QVector<QPair<const char*, int>> clicks{{"eventStatesListOut", 0},
-                                                  {"operatorListOut", 0},
-                                                  {"statesListOut", 1},
-                                                  {"eventStatesListIn", 0},
-                                                  {"operatorListIn", 0},
-                                                  {"statesListIn", 0},
-                                                  {"operatorListIn", numeric ? 7 : 2},
-                                                  {"eventStatesListIn", keys.size() - 1},
-                                                  {"operatorListIn", numeric ? 3 : 0}};
-    for (const auto& click : clicks)
-        doubleClick(dialog, click.first, click.second);
+    for (const auto& [list, row] : {std::make_pair("eventStatesListOut", 0),
+                                    {"operatorListOut", 0},
+                                    {"statesListOut", 1},
+                                    {"eventStatesListIn", 0},
+                                    {"operatorListIn", 0},
+                                    {"statesListIn", 0},
+                                    {"operatorListIn", numeric ? 7 : 2},
+                                    {"eventStatesListIn", keys.size() - 1},
+                                    {"operatorListIn", numeric ? 3 : 0}})
+        doubleClick(dialog, list, row);
     const QString value = numeric ? QStringLiteral("30") : QStringLiteral("OFF");
     QTest::keyClicks(find<QTextEdit>(dialog, "expressionTextIn"), value);
     QCOMPARE(shownAs(dialog), bothGreen);
@@ -123,37 +113,29 @@ void AdvancedOptionsWindowTest::conditionsAreClickedTogether()
     QCOMPARE(shownAs(AdvancedOptionsWindow(device(model), expected, &m_events, nullptr)), bothGreen);
 }
 
-void AdvancedOptionsWindowTest::entriesAreRefusedInOrder_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("out");
-    const auto row = [](const char* message, const char* name, const char* out) {
-        QTest::newRow(message) << QString::fromUtf8(name) << QString::fromUtf8(out);
-    };
-    row("Uwaga|Pole \"Nazwa zdarzenia\" nie może być puste", "", "");
-    row("Uwaga|Nazwa zdarzenia zawiera niedozwolone znaki", "a\"b", "");
-    row("Uwaga|Należy wprowadzić wyrażenie.", "a", "");
-    row("Uwaga|Wprowadzone wyrażenie jest nieprawidłowe.", "a", "stateNormal");
-    row("Uwaga|Wystąpił błąd podczas przetwarzania wyrażenia.", "a", "stateNormal()==ON");
-    row("Uwaga|Konfiguracja zawiera już zdarzenie Zdarzenie 2", "Zdarzenie 2", "stateNormal==ON");
-    row("", "Zdarzenie 1", "stateNormal==ON");
-}
-
 void AdvancedOptionsWindowTest::entriesAreRefusedInOrder()
 {
-    QFETCH(QString, name);
-    QFETCH(QString, out);
     QVector<Event> events(2);
     events[0].state = stored.at(0);
     events[1].state = QStringLiteral("Zdarzenie 2");
     AdvancedOptionsWindow dialog(device(QStringLiteral("TARVEX33_USB")), stored, &events, nullptr);
     dialog.show();
-    typeInto(dialog, "eventNameTextEdit", name);
-    find<QTextEdit>(dialog, "expressionTextOut")->setPlainText(out);
-    find<QPushButton>(dialog, "saveEventButton")->click();
-    const QString message = QString::fromUtf8(QTest::currentDataTag());
-    QCOMPARE(takeMessages().join(QString()), message);
-    QCOMPARE(dialog.isHidden(), message.isEmpty());
+    // Name, condition and what is said to them.
+    for (const char* row :
+         {"||Uwaga|Pole \"Nazwa zdarzenia\" nie może być puste",
+          "a\"b||Uwaga|Nazwa zdarzenia zawiera niedozwolone znaki", "a||Uwaga|Należy wprowadzić wyrażenie.",
+          "a|stateNormal|Uwaga|Wprowadzone wyrażenie jest nieprawidłowe.",
+          "a|stateNormal()==ON|Uwaga|Wystąpił błąd podczas przetwarzania wyrażenia.",
+          "Zdarzenie 2|stateNormal==ON|Uwaga|Konfiguracja zawiera już zdarzenie Zdarzenie 2",
+          "Zdarzenie 1|stateNormal==ON|"}) {
+        const QString said = QString::fromUtf8(row).section(QLatin1Char('|'), 2);
+        typeInto(dialog, "eventNameTextEdit", QString::fromUtf8(row).section(QLatin1Char('|'), 0, 0));
+        find<QTextEdit>(dialog, "expressionTextOut")
+            ->setPlainText(QString::fromUtf8(row).section(QLatin1Char('|'), 1, 1));
+        find<QPushButton>(dialog, "saveEventButton")->click();
+        QCOMPARE(takeMessages().join(QString()), said);
+        QCOMPARE(dialog.isHidden(), said.isEmpty());
+    }
 }
 
 void AdvancedOptionsWindowTest::whatCannotBeReadIsShown()
