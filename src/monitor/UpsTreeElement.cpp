@@ -6,18 +6,12 @@ UpsTreeElement::UpsTreeElement()
     : QTreeWidgetItem(QTreeWidgetItem::Type)
 {}
 
-void UpsTreeElement::setIconPath(const QString& path)
+void UpsTreeElement::setIndicator(const QString& path, const QIcon& picture)
 {
-    if (m_iconPath == path)
+    if (m_indicatorPath == path)
         return;
-    m_iconPath = path;
-    QIcon icon;
-    if (!path.isEmpty()) {
-        icon.addFile(path);
-        // A selected row would tint the picture otherwise, and with it the colour that tells the state.
-        icon.addFile(path, QSize(), QIcon::Selected);
-    }
-    setIcon(0, icon);
+    m_indicatorPath = path;
+    setIcon(0, picture);
 }
 
 QList<Velmora::Utils::Ups> UpsTreeElement::childUps() const

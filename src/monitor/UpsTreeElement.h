@@ -13,8 +13,8 @@ public:
     UpsTreeElement();
     Q_DISABLE_COPY_MOVE(UpsTreeElement)
 
-    /// Loads the picture only if the row shows another one. An empty path leaves the row without icon.
-    void setIconPath(const QString& path);
+    /// Shows the picture of this path, unless the row does already.
+    void setIndicator(const QString& path, const QIcon& picture);
 
     /// The devices of the rows below this one.
     [[nodiscard]] QList<Velmora::Utils::Ups> childUps() const;
@@ -23,5 +23,5 @@ public:
     QString modelFullName;   ///< the model's name even where the row shows the user's own name
 
 private:
-    QString m_iconPath;
+    QString m_indicatorPath;
 };

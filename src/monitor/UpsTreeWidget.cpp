@@ -7,22 +7,6 @@
 #include <QMenu>
 #include <QTreeWidgetItemIterator>
 
-namespace {
-
-UpsTreeElement* makeElement(const Velmora::DeviceTreeRow& row)
-{
-    auto* element = new UpsTreeElement;
-    element->setText(0, row.text);
-    element->setIconPath(row.iconPath);
-    element->ups = row.ups;
-    element->modelFullName = row.modelFullName;
-    for (const Velmora::DeviceTreeRow& child : row.children)
-        element->addChild(makeElement(child));
-    return element;
-}
-
-} // namespace
-
 UpsTreeWidget::UpsTreeWidget(const bool* administratorMode, QWidget* parent)
     : QTreeWidget(parent)
     , m_administratorMode(administratorMode)
@@ -42,8 +26,33 @@ void UpsTreeWidget::clear()
 
 void UpsTreeWidget::addRows(const std::vector<Velmora::DeviceTreeRow>& rows)
 {
+    QList<QTreeWidgetItem*> elements;
     for (const Velmora::DeviceTreeRow& row : rows)
-        addTopLevelItem(makeElement(row));
+        elements.append(makeElement(row));
+    addTopLevelItems(elements);
+}
+
+UpsTreeElement* UpsTreeWidget::makeElement(const Velmora::DeviceTreeRow& row)
+{
+    auto* element = new UpsTreeElement;
+    element->setText(0, row.text);
+    showIndicator(element, row.iconPath);
+    element->ups = row.ups;
+    element->modelFullName = row.modelFullName;
+    for (const Velmora::DeviceTreeRow& child : row.children)
+        element->addChild(makeElement(child));
+    return element;
+}
+
+void UpsTreeWidget::showIndicator(UpsTreeElement* element, const QString& path)
+{
+    QIcon& picture = m_indicators[path];
+    if (picture.isNull() && !path.isEmpty()) {
+        picture.addFile(path);
+        // A selected row would tint the picture otherwise, and with it the colour that tells the state.
+        picture.addFile(path, QSize(), QIcon::Selected);
+    }
+    element->setIndicator(path, picture);
 }
 
 UpsTreeElement* UpsTreeWidget::currentElement() const

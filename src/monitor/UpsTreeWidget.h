@@ -4,6 +4,8 @@
 
 #include "devices/core/DeviceTreeLayout.h"
 
+#include <QHash>
+#include <QIcon>
 #include <QTreeWidget>
 
 #include <vector>
@@ -23,6 +25,8 @@ public:
     /// Deletes every row.
     void clear();
     void addRows(const std::vector<Velmora::DeviceTreeRow>& rows);
+    /// Shows the picture of a resource path in the row; an empty path leaves it without one.
+    void showIndicator(UpsTreeElement* element, const QString& path);
 
     [[nodiscard]] UpsTreeElement* currentElement() const;
     /// The row at a position of the layout that the tree was built from; null if there is none.
@@ -41,5 +45,8 @@ public slots:
     void deleteActionTriggeredSlot();
 
 private:
+    UpsTreeElement* makeElement(const Velmora::DeviceTreeRow& row);
+
     const bool* m_administratorMode;
+    QHash<QString, QIcon> m_indicators; ///< by path: each picture is loaded once, not once a row
 };

@@ -143,6 +143,7 @@ private:
     void editVirtualDevice(const UpsTreeElement& element);
     void saveConfiguration(const UPSConfigurationWindow& dialog);
 
+    void expandTree();
     void setCurrentDevice(UpsTreeElement* element);
     void setUpsModelText(const QString& text);
     void setUpsModelImage(const QString& modelName);

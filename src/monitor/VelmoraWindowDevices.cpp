@@ -32,7 +32,7 @@ void VelmoraWindow::upsModelMessageReceived(const QVector<Ups>& upsModels)
         setUpsModelText(QString());
         setUpsModelImage(QString());
     } else {
-        upsTree->expandAll();
+        expandTree();
         for (const auto& position : Velmora::deviceSelectionSteps(rows, currentDevice.id))
             setCurrentDevice(upsTree->elementAt(position));
     }
@@ -41,6 +41,16 @@ void VelmoraWindow::upsModelMessageReceived(const QVector<Ups>& upsModels)
     if (rows.empty() && showAddUpsPrompt)
         emit signalEmptyUpsList();
     showAddUpsPrompt = false;
+}
+
+void VelmoraWindow::expandTree()
+{
+    {
+        // The tree tells of each row that it expands, and measuring its column takes as long as it has rows.
+        const QSignalBlocker blocker(upsTree);
+        upsTree->expandAll();
+    }
+    upsTreeExpandedHandler();
 }
 
 void VelmoraWindow::setCurrentDevice(UpsTreeElement* element)
@@ -93,7 +103,7 @@ void VelmoraWindow::showStatus(UpsTreeElement* element, const currentDeviceStatu
     ups.output_socket2 = status.output_socket2;
     ups.ups_shutdown_supported = status.ups_shutdown_supported;
     ups.unit_address = QString::fromStdString(status.unit_address);
-    element->setIconPath(Velmora::indicatorPath(status.status, status.master));
+    upsTree->showIndicator(element, Velmora::indicatorPath(status.status, status.master));
     if (!currentDevice.id.isEmpty() && status.id == currentDevice.id.toInt())
         setCurrentDevice(element);
 }

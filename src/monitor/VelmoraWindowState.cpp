@@ -140,7 +140,7 @@ void VelmoraWindow::socketError()
     {
         const QSignalBlocker blocker(upsTree);
         for (UpsTreeElement* element : upsTree->allElements())
-            element->setIconPath(Velmora::lostServiceIndicatorPath());
+            upsTree->showIndicator(element, Velmora::lostServiceIndicatorPath());
     }
     removeDebugMarker();
     clockCancel();
