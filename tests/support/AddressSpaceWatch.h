@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QtGlobal>
 
+#include <cstdlib>
+
 #include <sys/mman.h>
 
 namespace Velmora::Tests {
@@ -38,16 +40,8 @@ private:
         QFile status(QStringLiteral("/proc/self/status"));
         if (!status.open(QIODevice::ReadOnly))
             qFatal("cannot read the size of this process");
-        const auto lines = status.readAll().split('\n');
-        for (const QByteArray& line : lines) {
-            if (line.startsWith(field))
-                return line.mid(static_cast<int>(qstrlen(field)))
-                    .trimmed()
-                    .split(' ')
-                    .constFirst()
-                    .toLongLong();
-        }
-        return 0;
+        const QByteArray lines = status.readAll();
+        return std::atoll(lines.constData() + lines.indexOf(field) + qstrlen(field));
     }
 
     void* m_ballast = MAP_FAILED;

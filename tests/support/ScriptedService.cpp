@@ -11,7 +11,6 @@
 #include <QTcpSocket>
 #include <QTest>
 #include <QXmlStreamReader>
-#include <QtEndian>
 
 #include <algorithm>
 
@@ -65,23 +64,6 @@ void ScriptedService::stop()
     m_newest.clear();
 }
 
-void ScriptedService::replyTo(const QByteArray& name, const QByteArray& document)
-{
-    replyTo(name, QVector<QByteArray>{document});
-}
-
-void ScriptedService::replyTo(const QByteArray& name, const QVector<QByteArray>& documents)
-{
-    m_replies.insert(name, documents);
-}
-
-void ScriptedService::acceptPending()
-{
-    // A loopback connection stands in the queue by the time its client knows of it.
-    m_server.waitForNewConnection(defaultTimeout);
-    m_server.resumeAccepting();
-}
-
 void ScriptedService::send(const QByteArray& document)
 {
     sendRaw(frame(document));
@@ -101,13 +83,6 @@ void ScriptedService::sendRaw(const QByteArray& bytes)
         write(m_newest, bytes);
     else
         qWarning("no connection to send to");
-}
-
-void ScriptedService::sendFrame(const QByteArray& blob, quint32 announcedSize)
-{
-    QByteArray bytes(Utils::frameHeaderSize, Qt::Uninitialized);
-    qToBigEndian(announcedSize, bytes.data());
-    sendRaw(bytes + blob);
 }
 
 bool ScriptedService::sendSplit(const QByteArray& document, int at)
@@ -134,8 +109,10 @@ void ScriptedService::closeConnection()
 
 void ScriptedService::resetConnection()
 {
-    if (m_newest)
-        reset(m_newest);
+    const linger atOnce{1, 0};
+    const auto handle = static_cast<int>(m_newest->socketDescriptor());
+    setsockopt(handle, SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
+    m_newest->abort();
 }
 
 bool ScriptedService::isConnected() const
@@ -172,11 +149,6 @@ void ScriptedService::takeConnections()
     while (QTcpSocket* connection = m_server.nextPendingConnection()) {
         ++m_connectionCount;
         connect(connection, &QTcpSocket::disconnected, connection, &QObject::deleteLater);
-        if (m_resetsLeft > 0) {
-            --m_resetsLeft;
-            reset(connection);
-            continue;
-        }
         connection->setSocketOption(QAbstractSocket::LowDelayOption, 1);
         m_newest = connection;
         connect(connection, &QTcpSocket::readyRead, this, [this, connection] { readRequests(connection); });
@@ -201,23 +173,14 @@ void ScriptedService::answer(QTcpSocket* connection, const QByteArray& text)
     reader.readNextStartElement();
     const QByteArray name = reader.name().toUtf8();
     m_requests.append({name, text, now()});
-    const auto documents = m_replies.value(name);
-    for (const QByteArray& document : documents)
-        write(connection, frame(document));
+    if (m_replies.contains(name))
+        write(connection, frame(m_replies.value(name)));
 }
 
 void ScriptedService::write(QTcpSocket* connection, const QByteArray& bytes)
 {
     connection->write(bytes);
     connection->flush();
-}
-
-void ScriptedService::reset(QTcpSocket* connection)
-{
-    const linger atOnce{1, 0};
-    const auto handle = static_cast<int>(connection->socketDescriptor());
-    setsockopt(handle, SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
-    connection->abort();
 }
 
 } // namespace Velmora::Tests

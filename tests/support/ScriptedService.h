@@ -48,23 +48,13 @@ public:
     /// Stops listening and closes every connection.
     void stop();
 
-    /// What each request called `name` is answered with from now on; an empty list takes the answer back.
-    void replyTo(const QByteArray& name, const QByteArray& document);
-    void replyTo(const QByteArray& name, const QVector<QByteArray>& documents);
-    /// Each of the next `count` connections is reset as soon as it is accepted.
-    void resetNextConnections(int count) { m_resetsLeft = count; }
-    /// Leaves connections in the queue of the port, where they stand for their clients, until
-    /// acceptPending().
-    void holdConnections() { m_server.pauseAccepting(); }
-    /// Accepts at once, without going through the event loop, and from now on again by itself.
-    void acceptPending();
+    /// What each request called `name` is answered with from now on.
+    void replyTo(const QByteArray& name, const QByteArray& document) { m_replies.insert(name, document); }
 
     // All of these go to the newest connection, each call in one write.
     void send(const QByteArray& document);
     void sendTogether(const QVector<QByteArray>& documents);
     void sendRaw(const QByteArray& bytes);
-    /// `blob` behind a size field that need not be true.
-    void sendFrame(const QByteArray& blob, quint32 announcedSize);
     /// The first `at` bytes of the frame, then the rest once the panel has had the first part before it: when
     /// its next request is here or its connection is gone. False if neither comes.
     [[nodiscard]] bool sendSplit(const QByteArray& document, int at);
@@ -74,7 +64,7 @@ public:
     void resetConnection();
 
     [[nodiscard]] bool isConnected() const;
-    /// Connections accepted so far, the reset ones included.
+    /// Connections accepted so far.
     [[nodiscard]] int connectionCount() const { return m_connectionCount; }
     /// The clock of Request::time.
     [[nodiscard]] qint64 now() const { return m_clock.elapsed(); }
@@ -93,15 +83,13 @@ private:
     void readRequests(QTcpSocket* connection);
     void answer(QTcpSocket* connection, const QByteArray& text);
     static void write(QTcpSocket* connection, const QByteArray& bytes);
-    static void reset(QTcpSocket* connection);
 
     QTcpServer m_server;
     QPointer<QTcpSocket> m_newest;
-    QHash<QByteArray, QVector<QByteArray>> m_replies;
+    QHash<QByteArray, QByteArray> m_replies;
     QVector<Request> m_requests;
     QElapsedTimer m_clock;
     int m_connectionCount = 0;
-    int m_resetsLeft = 0;
 };
 
 } // namespace Velmora::Tests
