@@ -81,15 +81,9 @@ void AdvancedOptionsWindowTest::conditionsAreClickedTogether()
 {
     QFETCH(QString, model);
     const QString path = Velmora::eventDefinitionsPath(model);
-<<<<<<< ours
     const QStringList keys = Velmora::readEventDefinitions(path, device(model), {}).eventKeys;
     const QString first = keys.constFirst();
     const QString last = keys.constLast();
-=======
-    const QStringList keys = Velmora::readEventDefinitions(path, device(model), language).eventKeys;
-    const QString& first = keys.constFirst();
-    const QString& last = keys.constLast();
->>>>>>> theirs
     const bool numeric = last.startsWith(QLatin1String("param"));
     AdvancedOptionsWindow dialog(device(model), {stored.at(0)}, &m_events, nullptr);
     dialog.show();
