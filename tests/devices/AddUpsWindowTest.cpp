@@ -62,9 +62,8 @@ struct Dialog
     }
     void name(const QString& text)
     {
-        auto* field = window.findChild<QLineEdit*>(QStringLiteral("upsNameEdit"));
-        field->clear();
-        QTest::keyClicks(field, text);
+        typeInto(window, "upsNameEdit", QString());
+        QTest::keyClicks(window.findChild<QLineEdit*>(QStringLiteral("upsNameEdit")), text);
     }
     bool canSave()
     {
@@ -98,7 +97,7 @@ class AddUpsWindowTest final : public QObject
 private slots:
     void initTestCase() { Q_INIT_RESOURCE(velmora); }
 
-    void serialDeviceNeedsAFreePort()
+    void newDeviceNeedsAFreePortOrAnAddress()
     {
         Dialog dialog;
         QVERIFY(dialog.connect());
@@ -106,46 +105,35 @@ private slots:
         QComboBox* ports = dialog.box("communicationPortBox");
         QCOMPARE(ports->count(), 2);
         ports->setCurrentIndex(0);
-        QVERIFY(!dialog.canSave());
-        QVERIFY(ports->itemData(0, Qt::FontRole).value<QFont>().italic());
+        QVERIFY(!dialog.canSave() && ports->itemData(0, Qt::FontRole).value<QFont>().italic());
         ports->setCurrentIndex(1);
         QVERIFY(dialog.canSave());
-        dialog.name(QString(90, QLatin1Char('x')));
-        dialog.window.accept();
-        QVERIFY(dialog.service.waitForRequest("get_available_ports", 2));
-        QCOMPARE(dialog.sent("set_new_ups", "model_name"), QByteArray("CormelPro_RS232"));
-        QCOMPARE(dialog.sent("set_new_ups", "com_port"), QByteArray("/dev/ttyS1"));
-        QCOMPARE(dialog.sent("set_new_ups", "user_defined_name").size(), 80);
-        QCOMPARE(dialog.window.result(), int(QDialog::Accepted));
-    }
 
-    void networkDeviceNeedsAnAddress()
-    {
-        Dialog dialog;
-        QVERIFY(dialog.connect());
         dialog.choose("TARVEX NOIR", "SNMP");
         QVERIFY(!dialog.canSave());
         dialog.prompts.expect({QStringLiteral("Uwaga"), QMessageBox::Ok, false, {}});
-        QVERIFY(driveModal<SnmpOptionsWindow>([&] { dialog.window.snmpOptionsButtonClickHandler(); },
-                                              [&](SnmpOptionsWindow& options) {
-                                                  options.setAgentIp(QStringLiteral("192.0.2"));
-                                                  options.accept();
-                                                  QVERIFY(dialog.prompts.allAsked() && options.isVisible());
-                                                  options.setAgentIp(QStringLiteral("192.0.2.9"));
-                                                  options.setReadCommunity(QStringLiteral("public"));
-                                                  options.setSnmpVer(QStringLiteral("v2c"), true);
-                                                  options.accept();
-                                              }));
+        const auto enter = [&](SnmpOptionsWindow& options) {
+            options.setAgentIp(QStringLiteral("192.0.2"));
+            options.accept();
+            QVERIFY(dialog.prompts.allAsked() && options.isVisible());
+            options.setAgentIp(QStringLiteral("192.0.2.9"));
+            options.setSnmpVer(QStringLiteral("v2c"), true);
+            options.accept();
+        };
+        QVERIFY(driveModal<SnmpOptionsWindow>([&] { dialog.window.snmpOptionsButtonClickHandler(); }, enter));
         QVERIFY(dialog.canSave());
         // The options outlast a look at another interface.
         dialog.choose("TARVEX NOIR", "RS232");
         dialog.choose("TARVEX NOIR", "SNMP");
+        dialog.name(QString(90, QLatin1Char('x')));
         dialog.window.accept();
-        QVERIFY(dialog.service.waitForRequest("set_new_ups"));
+        QVERIFY(dialog.service.waitForRequest("get_available_ports", 2));
+        QCOMPARE(dialog.window.result(), int(QDialog::Accepted));
+        QCOMPARE(dialog.sent("set_new_ups", "model_name"), QByteArray("Tarvex_NOIR_SNMP"));
         QCOMPARE(dialog.sent("set_new_ups", "communication"), QByteArray("snmp"));
         QCOMPARE(dialog.sent("set_new_ups", "ip"), QByteArray("192.0.2.9"));
-        QCOMPARE(dialog.sent("set_new_ups", "read"), QByteArray("public"));
         QCOMPARE(dialog.sent("set_new_ups", "snmp_ver"), QByteArray("v2c"));
+        QCOMPARE(dialog.sent("set_new_ups", "user_defined_name").size(), 80);
     }
 
     void changeIsSavedOnlyIfThereIsOne()

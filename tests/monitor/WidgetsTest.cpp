@@ -55,27 +55,24 @@ void WidgetsTest::textFieldTellsWhyItHasNoValue()
     field.QWidget::show();
     const auto* edit = part<QLineEdit>(field, "lineEdit");
     auto* help = part<QPushButton>(field, "helpButton");
+    const auto reason = [help] {
+        QTest::mouseClick(help, Qt::LeftButton);
+        return QToolTip::text();
+    };
     QVERIFY(help->isHidden());
-
     static_cast<AbstractWidget&>(field).setEnabled(false);
     QVERIFY(!edit->isEnabled());
     field.setDefaultText();
     QCOMPARE(edit->text(), QStringLiteral("N/D"));
     QVERIFY2(help->isVisible() && help->isEnabled(), "a disabled field can still give its reason");
-
-    QTest::mouseClick(help, Qt::LeftButton);
-    QCOMPARE(QToolTip::text(), modelReason);
+    QCOMPARE(reason(), modelReason);
     field.defaultTooltip(false);
-    QTest::mouseClick(help, Qt::LeftButton);
-    QCOMPARE(QToolTip::text(),
-             QStringLiteral("Dane niedostępne przy użyciu wybranego interfejsu komunikacyjnego"));
-
+    QCOMPARE(reason(), QStringLiteral("Dane niedostępne przy użyciu wybranego interfejsu komunikacyjnego"));
     field.setText(QStringLiteral("31"));
     QVERIFY(help->isHidden());
     field.setDefaultText();
     field.setEnabled(false);
-    QVERIFY(help->isHidden());
-    QCOMPARE(field.text(), QString());
+    QVERIFY(help->isHidden() && field.text().isEmpty());
 }
 
 void WidgetsTest::barShowsValuesBeyondItsEndsAndMissingOnes()
@@ -105,23 +102,23 @@ void WidgetsTest::stripShowsTheLinks()
     strip.show();
     const auto* note = part<QLabel>(strip, "serviceNote");
     const auto* device = part<QLabel>(strip, "deviceText");
-    const auto shownNote = [note] { return note->isVisible() ? note->text() : QString(); };
+    const auto connect = [&strip](State state) {
+        strip.setServiceConnectionState(state, QStringLiteral("host"));
+    };
     QVERIFY(device->text().isEmpty());
-
     strip.setUpsConnectionState(State::Connected);
-    strip.setServiceConnectionState(State::Connected, QStringLiteral("<i>host</i>"));
+    connect(State::Connected);
     QCOMPARE(part<QLabel>(strip, "serviceAddress")->textFormat(), Qt::PlainText);
-    QCOMPARE(shownNote(), QStringLiteral("Niezgodna wersja usługi"));
+    QVERIFY(note->isVisible());
     strip.setServiceVersion(QStringLiteral(VELMORA_VERSION));
-    QCOMPARE(shownNote(), QString());
-    strip.setServiceConnectionState(State::Connected, QStringLiteral("host"));
-    QVERIFY2(shownNote().isEmpty(), "the version outlives a repeated state");
-    strip.setServiceConnectionState(State::Disconnected, QStringLiteral("host"));
+    connect(State::Connected);
+    QVERIFY2(!note->isVisible(), "the version outlives a repeated state");
+    connect(State::Disconnected);
     QCOMPARE(device->text(), QStringLiteral("Komunikacja z UPS nieznana"));
     strip.setDeviceType(VLDeviceType::Genset);
     QCOMPARE(device->text(), QStringLiteral("Komunikacja z agregatem\nnieznana"));
-    strip.setServiceConnectionState(State::Connected, QStringLiteral("host"));
-    QCOMPARE(shownNote(), QStringLiteral("Niezgodna wersja usługi"));
+    connect(State::Connected);
+    QCOMPARE(note->isVisible() ? note->text() : QString(), QStringLiteral("Niezgodna wersja usługi"));
     QCOMPARE(device->text(), QStringLiteral("Połączono z agregatem"));
 }
 
