@@ -65,8 +65,6 @@ void WindowTreeTest::rebuild_data()
 
     QTest::newRow("the first device follows one that is gone")
         << twoDevices() << deviceList({device(5, "TarvexRT_USB", "E")}) << tells + u'5' << "E";
-    QTest::newRow("a unit is found below its virtual device")
-        << twoDevices() << deviceList({group, unit}) << tells + u'2' << "B";
     QTest::newRow("a later virtual device of the same id wins over the unit and both are told")
         << twoDevices() << deviceList({group, unit, sameId}) << tells + u'2' + u'|' + tells + u'2' << "W";
     QTest::newRow("a row of unknown model is told as device 0")

@@ -17,14 +17,11 @@ void append(LogBook& book, int first, int end, qint64 limit = noLimit)
         book.append(QString::number(i), limit);
 }
 
-// First and last line of the page after these were asked for: f first, o older, n newer.
-QByteArray pageAfter(const char* asked, const LogBook& book, LogPosition& position)
+// First and last line of a page.
+QByteArray page(LogAge age, const LogBook& book, LogPosition& position)
 {
-    QStringList page;
-    for (; *asked != '\0'; ++asked)
-        page = book.page(*asked == 'f' ? LogAge::First : (*asked == 'o' ? LogAge::Older : LogAge::Newer),
-                         position);
-    return page.isEmpty() ? QByteArray() : QString(page.first() + QLatin1Char('-') + page.last()).toLatin1();
+    const QStringList lines = book.page(age, position);
+    return lines.isEmpty() ? QByteArray() : QString(lines.first() + u'-' + lines.last()).toLatin1();
 }
 
 } // namespace
@@ -42,23 +39,23 @@ void LogBookTest::pagesKeepTheirPlaceWhileTheLogGrowsAndIsCut()
 {
     LogBook book;
     LogPosition position;
-    QCOMPARE(pageAfter("fon", book, position), QByteArray());
+    QCOMPARE(page(LogAge::Older, book, position), QByteArray());
     append(book, 0, 250);
-    QCOMPARE(pageAfter("f", book, position), QByteArray("150-249"));
-    QCOMPARE(pageAfter("n", book, position), QByteArray("150-249"));
-    QCOMPARE(pageAfter("o", book, position), QByteArray("50-149"));
-    QCOMPARE(pageAfter("o", book, position), QByteArray("0-49"));
+    QCOMPARE(page(LogAge::First, book, position), QByteArray("150-249"));
+    QCOMPARE(page(LogAge::Newer, book, position), QByteArray("150-249"));
+    QCOMPARE(page(LogAge::Older, book, position), QByteArray("50-149"));
+    QCOMPARE(page(LogAge::Older, book, position), QByteArray("0-49"));
     // Beyond the oldest the first lines come again, now as many as a page holds.
-    QCOMPARE(pageAfter("o", book, position), QByteArray("0-99"));
+    QCOMPARE(page(LogAge::Older, book, position), QByteArray("0-99"));
     append(book, 250, 350);
-    QCOMPARE(pageAfter("n", book, position), QByteArray("100-199"));
-    QCOMPARE(pageAfter("n", book, position), QByteArray("200-299"));
-    QCOMPARE(pageAfter("n", book, position), QByteArray("300-349"));
+    QCOMPARE(page(LogAge::Newer, book, position), QByteArray("100-199"));
+    QCOMPARE(page(LogAge::Newer, book, position), QByteArray("200-299"));
+    QCOMPARE(page(LogAge::Newer, book, position), QByteArray("300-349"));
     // Space for 150 lines of three digits and a line feed: where the reader stood is gone.
     append(book, 350, 600, 600);
-    QCOMPARE(pageAfter("n", book, position), QByteArray("450-549"));
+    QCOMPARE(page(LogAge::Newer, book, position), QByteArray("450-549"));
     book.setHeader(QStringLiteral("header"));
-    QCOMPARE(pageAfter("n", book, position), QByteArray("header-599"));
+    QCOMPARE(page(LogAge::Newer, book, position), QByteArray("header-599"));
 }
 
 void LogBookTest::pageFitsIntoAFrame()

@@ -15,17 +15,6 @@ using namespace Velmora::Tests;
 
 namespace {
 
-/// One test of an account: what the server does and what becomes of it.
-struct Row
-{
-    const char* name;
-    const char* script;
-    const char* account; ///< security, authentication, trust in the server's certificate
-    const char* status;
-    const char* message; ///< one of the reports
-    const char* told;    ///< something that the server heard; with "!": did not hear
-};
-
 // Key and certificate of the test's mail server, made for nothing else; it names its own address.
 const QString pem = QStringLiteral(VELMORA_TEST_DATA "/mail-server.pem");
 
@@ -112,7 +101,9 @@ private slots:
 
 void MailAccountTest::accountIsTried()
 {
-    const Row rows[] = {
+    // What it is about, what the server does, security, authentication and trust in the certificate; then the
+    // status, one of the reports and something that the server heard or, with "!", did not hear.
+    const QVector<QByteArrayList> rows{
         {"plain mail goes through", "", "none 0 0", "100", "accepted a mail to u@t", "- RCPT TO:<u@t>"},
         {"old server is greeted the old way", "no EHLO", "none 0 0", "100", "accepted", "- HELO [127."},
         {"password goes out encrypted", "STARTTLS;AUTH PLAIN", "tls 1 1", "100", "as u:s",
@@ -128,12 +119,12 @@ void MailAccountTest::accountIsTried()
         {"server without TLS ends the test", "", "ssl 0 0", "2", "handshake", "!EHLO"},
         {"endless line is cut", "flood", "none 0 0", "2", "no mail server", "!EHLO"},
         {"end of the connection is told", "leave", "none 0 0", "2", "connection failed", "!EHLO"}};
-    for (const Row& row : rows) {
-        const QByteArrayList account = QByteArray(row.account).split(' ');
+    for (const QByteArrayList& row : rows) {
+        const QByteArrayList account = row.at(2).split(' ');
         QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
         configuration.setCaCertificates(QSslCertificate::fromPath(account.last() == "1" ? pem : QString()));
         QSslConfiguration::setDefaultConfiguration(configuration);
-        MailServer server(QString::fromLatin1(row.script));
+        MailServer server(QString::fromLatin1(row.at(1)));
         const auto service = startService();
         PanelClient client;
         client.setPassword(administratorPassword);
@@ -144,17 +135,17 @@ void MailAccountTest::accountIsTried()
         fields += "<smtp2_security_type>" + account.at(0) + "</smtp2_security_type>";
         fields += "<smtp2_authentication>" + account.at(1) + "</smtp2_authentication>";
         client.send("smtp2_send_test_mail", fields);
-        QByteArray messages = QByteArray(row.name) + ": ";
+        QByteArray messages = row.at(0) + ": ";
         QByteArray status;
         do {
             const QByteArray report = client.waitFor("smtp2_test_status");
             status = text(report, "current_status");
             messages += text(report, "msg_0") + '\n';
         } while (status == "1");
-        const bool mustHear = *row.told != '!';
-        const bool heard = server.told.contains(mustHear ? row.told : row.told + 1);
+        const bool mustHear = !row.at(5).startsWith('!');
+        const bool heard = server.told.contains(row.at(5).mid(mustHear ? 0 : 1));
         messages += server.told;
-        QVERIFY2(status == row.status && messages.contains(row.message) && heard == mustHear,
+        QVERIFY2(status == row.at(3) && messages.contains(row.at(4)) && heard == mustHear,
                  messages.constData());
     }
 }

