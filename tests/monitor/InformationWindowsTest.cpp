@@ -80,8 +80,6 @@ void InformationWindowsTest::gridShowsTheReports_data()
         "input_voltage=230,d_plus=1,fuel_level=70,run_time=5|input_voltage=229,fuel_level=69,run_time=6",
         "0/0 Napięcie wejściowe: 229 V.|0/1 Poziom paliwa: 69 %.|0/2 Całkowity czas pracy: 6 h.|"
         "1/0 Całkowity czas pracy: 5 h.");
-    row("a key that comes back takes the stale cell again", false,
-        "d_plus=1,run_time=5|run_time=6|d_plus=2,run_time=7", "0/0 D+: 2 V.|0/1 Całkowity czas pracy: 7 h.");
 }
 
 void InformationWindowsTest::gridShowsTheReports()
