@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Velmora developers
 // SPDX-License-Identifier: MIT
 #include "monitor/WindowFixture.h"
+#include "support/PaintCounter.h"
 
 #include <QPlainTextEdit>
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace Velmora::Tests;
@@ -37,6 +39,7 @@ private slots:
     void reportReachesTheControls_data();
     void reportReachesTheControls();
     void messagesAreRedAndRedrawnOnlyWhenTheyChange();
+    void unchangedPollRepaintsNothing();
     void failedReportsBlankTheFieldsAfterTheWatchdog();
     void lostServiceIsShownAfterTheWatchdog();
     void countdownRunsDown();
@@ -123,6 +126,23 @@ void WindowStateTest::messagesAreRedAndRedrawnOnlyWhenTheyChange()
     panel->tree()->setCurrentItem(panel->row(QStringLiteral("T")));
     QVERIFY(panel->send(messages("3\n7\n0")));
     QVERIFY2(redrawn > 0, "the same codes of another device are drawn anew");
+}
+
+void WindowStateTest::unchangedPollRepaintsNothing()
+{
+    const auto poll = [this](const QByteArray& report) {
+        return panel->send("<ups_configuration><buzzer>1</buzzer></ups_configuration>") &&
+               panel->send(statusList({{1, "on_power_line"}, {2, "on_battery*"}})) && panel->send(report);
+    };
+    QVERIFY(poll(goodReport) && poll(goodReport));
+    PaintCounter paints;
+    qApp->installEventFilter(&paints);
+    QSignalSpy rows(panel->tree()->model(), &QAbstractItemModel::dataChanged);
+    QVERIFY(poll(goodReport) && poll(goodReport));
+    QCOMPARE(paints.count, 0);
+    QCOMPARE(rows.count(), 0);
+    QVERIFY(poll(stateReport("<output_load>43</output_load>")));
+    QTRY_VERIFY2(paints.count > 0, "a new value is painted");
 }
 
 void WindowStateTest::failedReportsBlankTheFieldsAfterTheWatchdog()
