@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: MIT
 
 // What a large page of a log costs the panel: the time until it is on screen, against a bare table with the
-// same text in the same run, and the memory that is left behind by paging. Ends with status 1 if one of them
-// is above its bound.
+// same text in the same run, and the memory that is left behind by paging.
 
+#include "bench/support/Costs.h"
+#include "bench/support/PanelApplication.h"
+#include "bench/support/Table.h"
 #include "logs/UpsLogsWindow.h"
+#include "support/PaintCounter.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -14,10 +17,9 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
-#include <algorithm>
-#include <cstdio>
 #include <malloc.h>
-#include <memory>
+
+using namespace Velmora::Bench;
 
 namespace {
 
@@ -25,20 +27,8 @@ constexpr int lineCount = 10000;
 constexpr int columnCount = 20;
 constexpr int rounds = 7;
 constexpr int pageCount = 20;
-constexpr double largestRatio = 1.3;
-constexpr qint64 largestGrowth = 64 * 1024; // bytes of the heap in use, of some 100 MB a page
-
-/// Sees when a widget is painted.
-class PaintWatch final : public QObject
-{
-public:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        painted = painted || event->type() == QEvent::Paint;
-        return QObject::eventFilter(watched, event);
-    }
-    bool painted = false;
-};
+constexpr Limit timeLimit{1.3, {}};
+constexpr Limit growthLimit{{}, 64}; // kB of the heap in use, of some 100 MB a page
 
 QStringList page()
 {
@@ -62,10 +52,10 @@ QStringList page()
 
 void showUntilPainted(QWidget& window, QWidget* viewport)
 {
-    PaintWatch watch;
-    viewport->installEventFilter(&watch);
+    Velmora::Tests::PaintCounter paints;
+    viewport->installEventFilter(&paints);
     window.show();
-    while (!watch.painted)
+    while (paints.count == 0)
         QApplication::processEvents(QEventLoop::WaitForMoreEvents);
     window.repaint();
 }
@@ -134,27 +124,22 @@ qint64 growthByPaging(const QStringList& lines)
 
 int main(int argc, char** argv)
 {
-    QApplication application(argc, argv);
+    const PanelApplication application(argc, argv);
     const QStringList lines = page();
     QVector<QStringList> fields;
     for (int row = 1; row < lines.size(); ++row)
         fields.append(lines.at(row).split(QLatin1Char(';')));
     const QSize size = UpsLogsWindow(nullptr).size();
-    double bare = bareTime(fields, size);
-    double panel = panelTime(lines);
-    for (int round = 1; round < rounds; ++round) {
-        bare = std::min(bare, bareTime(fields, size));
-        panel = std::min(panel, panelTime(lines));
+    std::vector<double> bare;
+    std::vector<double> panel;
+    for (int round = 0; round < rounds; ++round) {
+        bare.push_back(bareTime(fields, size));
+        panel.push_back(panelTime(lines));
     }
-    const double ratio = panel / bare;
-    const bool quick = ratio <= largestRatio;
-    std::printf(
-        "%d lines of %d columns on screen: panel %.1f ms, bare table %.1f ms, ratio %.3f, bound %.2f, %s\n",
-        lineCount, columnCount, panel, bare, ratio, largestRatio, quick ? "kept" : "BROKEN");
-    const qint64 growth = growthByPaging(lines);
-    const bool steady = growth <= largestGrowth;
-    std::printf("heap after %d such pages: %+lld bytes, bound %lld, %s\n", pageCount,
-                static_cast<long long>(growth), static_cast<long long>(largestGrowth),
-                steady ? "kept" : "BROKEN");
-    return quick && steady ? 0 : 1;
+    Table table(argc, argv);
+    table.add(
+        {"log page of 10000 lines, 20 columns, on screen", "ms", median(panel), median(bare), timeLimit});
+    const double growth = static_cast<double>(growthByPaging(lines)) / 1024;
+    table.add({"heap grown by turning 20 such pages", "kB", growth, {}, growthLimit});
+    return table.exitStatus();
 }

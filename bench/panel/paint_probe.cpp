@@ -3,7 +3,8 @@
 
 // Loaded into a Qt program with LD_PRELOAD, so that programs are measured as they ship. Writes to the file
 // descriptor in VELMORA_PAINT_PROBE_FD one line when the main window is first painted and one when the
-// temperature first shows a value, each with the time of CLOCK_MONOTONIC in nanoseconds.
+// temperature first shows a value, each with the time of CLOCK_MONOTONIC in nanoseconds. With
+// VELMORA_PAINT_PROBE_ALL set, each paint after that is a line with the widget's class and name.
 
 #include <QApplication>
 #include <QEvent>
@@ -31,13 +32,18 @@ public:
     {
         if (event->type() != QEvent::Paint)
             return false;
-        if (!m_windowPainted && qobject_cast<QMainWindow*>(watched)) {
+        if (m_valuesPainted) {
+            dprintf(m_descriptor, "%s:%s\n", watched->metaObject()->className(),
+                    qPrintable(watched->objectName()));
+        } else if (!m_windowPainted && qobject_cast<QMainWindow*>(watched)) {
             m_windowPainted = true;
             report("window");
         } else if (showsTemperature(qobject_cast<QLineEdit*>(watched))) {
             report("values");
+            m_valuesPainted = true;
             // What comes after this is measured as if there were no probe.
-            QCoreApplication::instance()->removeEventFilter(this);
+            if (!m_reportsAll)
+                QCoreApplication::instance()->removeEventFilter(this);
         }
         return false;
     }
@@ -57,7 +63,9 @@ private:
     }
 
     const int m_descriptor;
+    const bool m_reportsAll = qEnvironmentVariableIsSet("VELMORA_PAINT_PROBE_ALL");
     bool m_windowPainted = false;
+    bool m_valuesPainted = false;
 };
 
 void installProbe()
