@@ -82,6 +82,31 @@ void measure(Table& table, const char* kind, const QByteArray& text)
     table.add({"decode " + size, "us", decode.panel, decode.floor, limit});
 }
 
+/// The five requests that three seconds of the poll send, by the second.
+void measurePoll(Table& table)
+{
+    const auto request = [](const QByteArray& name) {
+        return QByteArray('<' + name + "><pass></pass></" + name + '>');
+    };
+    const QByteArray states = request("get_ups_current_status_list");
+    const QByteArray values = request("get_ups_device_state");
+    const std::vector<QByteArray> requests{request("get_ups_configuration"), states, values, states, values};
+    const auto panel = [&requests] {
+        qint64 bytes = 0;
+        for (const QByteArray& text : requests)
+            bytes += Velmora::encrypt(text).size();
+        return bytes;
+    };
+    const auto bare = [&requests] {
+        qint64 bytes = 0;
+        for (const QByteArray& text : requests)
+            bytes += bareEncode(text);
+        return bytes;
+    };
+    const Costs costs = compare(panel, bare);
+    table.add({"encode the poll's requests, a second of it", "us", costs.panel / 3, costs.floor / 3, limit});
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -97,6 +122,7 @@ int main(int argc, char** argv)
                                   {"Polish messages", "show_message", polishText},
                                   {"badly compressible text", "ups_logs", randomText}};
     Table table(argc, argv);
+    measurePoll(table);
     for (const int size : {100, 10 * 1000, 1000 * 1000}) {
         for (const Kind& kind : kinds)
             measure(table, kind.name, message(kind.root, size, kind.record));

@@ -100,7 +100,7 @@ qint64 heapInUse()
 {
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     const struct mallinfo2 use = mallinfo2();
-    return static_cast<qint64>(use.uordblks + use.hblkhd);
+    return static_cast<qint64>(use.uordblks) + static_cast<qint64>(use.hblkhd);
 }
 
 qint64 growthByPaging(const QStringList& lines)
