@@ -40,6 +40,8 @@ void MessagesTest::emitsWhatADocumentSays_data()
         "discoveredComputer(10.0.0.9)");
     row("an empty password is announced once", "<get_password></get_password>", "adminPassFromConfig()");
     row("a client's password", "<netclient_password>x&amp;y</netclient_password>", "netclientPass(x&y)");
+    row("a client's password was changed", "<netclient_password_changed/>", "passwordChanged()");
+    row("ports", "<available_ports/>", "availablePortsReceived()");
     row("computers, dense", "<all_computers><computer/><computer/></all_computers>",
         "allComputersReceived(*,*)");
     row("computers, line by line", "<all_computers>\n<computer>\n</computer>\n</all_computers>\n",
