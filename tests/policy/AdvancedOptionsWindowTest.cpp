@@ -82,8 +82,8 @@ void AdvancedOptionsWindowTest::conditionsAreClickedTogether()
     QFETCH(QString, model);
     const QString path = Velmora::eventDefinitionsPath(model);
     const QStringList keys = Velmora::readEventDefinitions(path, device(model), {}).eventKeys;
-    const QString first = keys.constFirst();
-    const QString last = keys.constLast();
+    const QString& first = keys.constFirst();
+    const QString& last = keys.constLast();
     const bool numeric = last.startsWith(QLatin1String("param"));
     AdvancedOptionsWindow dialog(device(model), {stored.at(0)}, &m_events, nullptr);
     dialog.show();
