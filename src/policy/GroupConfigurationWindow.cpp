@@ -24,7 +24,7 @@ GroupConfigurationWindow::GroupConfigurationWindow(QWidget* parent)
 {
     ui->setupUi(this);
     for (QTreeWidget* tree : {ui->computersInGroupTree, ui->availableComputersTree})
-        Velmora::prepareNetworkTree(tree, nameWidth);
+        Velmora::prepareNetworkTree(tree, {tr("Nazwa"), tr("Adres")}, nameWidth);
     connect(ui->addToGroupButton, &QPushButton::clicked, this,
             &GroupConfigurationWindow::addToGroupButtonHandler);
     connect(ui->removeFromGroupButton, &QPushButton::clicked, this,

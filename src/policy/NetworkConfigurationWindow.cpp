@@ -46,8 +46,8 @@ NetworkConfigurationWindow::NetworkConfigurationWindow(const Velmora::Utils::Ups
 {
     ui->setupUi(this);
     prepareEventsTree();
-    for (QTreeWidget* tree : {ui->networkElementsTree, ui->availableComputers})
-        Velmora::prepareNetworkTree(tree, nameWidth);
+    Velmora::prepareNetworkTree(ui->networkElementsTree, {tr("Grupa"), tr("Adres")}, nameWidth);
+    Velmora::prepareNetworkTree(ui->availableComputers, {tr("Nazwa"), tr("Adres")}, nameWidth);
     setEnableSaveButton(false);
     prepareWorkModeBox(device.model_name);
     ui->advancedConfigurationButton->setVisible(m_model.isAdvanced());

@@ -73,6 +73,7 @@ void NetworkConfigurationWindow::prepareEventsTree()
     ui->eventsTree->setColumnCount(sockets ? 6 : 5);
     ui->eventsTree->setColumnWidth(0, nameWidth);
     QTreeWidgetItem* header = ui->eventsTree->headerItem();
+    header->setText(0, tr("Zdarzenie"));
     for (int column = 1; column < ui->eventsTree->columnCount(); ++column) {
         const Picture& picture = pictures[column - 1];
         header->setText(column, QString());

@@ -11,9 +11,10 @@ const QString headerKind = QStringLiteral("header");
 const QString computerKind = QStringLiteral("computer");
 const QString groupKind = QStringLiteral("group");
 
-void prepareNetworkTree(QTreeWidget* tree, int nameWidth)
+void prepareNetworkTree(QTreeWidget* tree, const QStringList& titles, int nameWidth)
 {
     tree->setColumnCount(ComputerIdColumn + 1);
+    tree->setHeaderLabels(titles);
     for (int column = AddressColumn + 1; column < tree->columnCount(); ++column) {
         tree->headerItem()->setText(column, QString());
         tree->hideColumn(column);

@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QStringList>
+
 class QTreeWidget;
 class QTreeWidgetItem;
-class QString;
 
 namespace Velmora {
 
@@ -23,8 +24,9 @@ extern const QString headerKind;
 extern const QString computerKind;
 extern const QString groupKind;
 
-/// Gives the tree all columns and shows the first two, that of the names `nameWidth` pixels wide.
-void prepareNetworkTree(QTreeWidget* tree, int nameWidth);
+/// Gives the tree all columns and shows the first two under `titles`, that of the names `nameWidth` pixels
+/// wide.
+void prepareNetworkTree(QTreeWidget* tree, const QStringList& titles, int nameWidth);
 
 /// False without a row.
 [[nodiscard]] bool isOfKind(const QTreeWidgetItem* row, const QString& kind);
