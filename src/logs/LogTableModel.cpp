@@ -25,22 +25,20 @@ LogTableModel::LogTableModel(int rows, int columns, QObject* parent)
     : QAbstractTableModel(parent)
     , m_rows(qMax(0, rows))
     , m_columns(qMax(0, columns))
-    , m_items(static_cast<std::size_t>(m_rows) * static_cast<std::size_t>(m_columns))
+    , m_items(static_cast<std::size_t>(m_rows))
 {}
 
 LogTableModel::~LogTableModel() = default;
-
-std::size_t LogTableModel::place(int row, int column) const
-{
-    return static_cast<std::size_t>(row) * static_cast<std::size_t>(m_columns) +
-           static_cast<std::size_t>(column);
-}
 
 void LogTableModel::setItem(int row, int column, QStandardItem* item)
 {
     if (row < 0 || row >= m_rows || column < 0 || column >= m_columns)
         throw std::out_of_range("no such cell in the log table");
-    m_items[place(row, column)].reset(item);
+    auto& items = m_items[static_cast<std::size_t>(row)];
+    const auto place = static_cast<std::size_t>(column);
+    if (items.size() <= place)
+        items.resize(place + 1);
+    items[place].reset(item);
     const QModelIndex changed = index(row, column);
     emit dataChanged(changed, changed);
 }
@@ -72,8 +70,9 @@ QVariant LogTableModel::data(const QModelIndex& index, int role) const
         return headerPointer();
     if (role != Qt::DisplayRole || !index.isValid() || index.row() >= m_rows || index.column() >= m_columns)
         return {};
-    const std::unique_ptr<QStandardItem>& item = m_items[place(index.row(), index.column())];
-    return item ? QVariant(item->text()) : QVariant();
+    const auto& items = m_items[static_cast<std::size_t>(index.row())];
+    const auto place = static_cast<std::size_t>(index.column());
+    return place < items.size() && items[place] ? QVariant(items[place]->text()) : QVariant();
 }
 
 QVariant LogTableModel::headerData(int section, Qt::Orientation orientation, int role) const

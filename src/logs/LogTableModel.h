@@ -35,11 +35,11 @@ public:
                                       int role = Qt::DisplayRole) const override;
 
 private:
-    [[nodiscard]] std::size_t place(int row, int column) const;
     [[nodiscard]] QVariant headerPointer() const;
 
     int m_rows;
     int m_columns;
-    std::vector<std::unique_ptr<QStandardItem>> m_items; ///< row by row
+    // Each row as far as it was filled: rows times columns is no size that a page may announce.
+    std::vector<std::vector<std::unique_ptr<QStandardItem>>> m_items;
     std::unique_ptr<QStandardItemModel> m_header;
 };

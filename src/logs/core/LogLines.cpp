@@ -18,6 +18,9 @@ namespace {
 constexpr int phaseCount = 3;
 constexpr QChar fieldSeparator = u';';
 
+// Some tens are usual. Each column's header is looked for from the first one, at every size and paint.
+constexpr int mostColumns = 1000;
+
 constexpr std::array<const char*, 8> compensationSources = {
     QT_TRANSLATE_NOOP("UpsLogsWindow", "Data"),
     QT_TRANSLATE_NOOP("UpsLogsWindow", "Czas"),
@@ -75,7 +78,7 @@ private:
 
 ParametersHeader readParametersHeader(const QString& line)
 {
-    const QStringList names = line.split(fieldSeparator);
+    const QStringList names = line.split(fieldSeparator).mid(0, mostColumns);
     ParametersHeader header;
     header.columns = names.size();
     HeaderBuilder builder;

@@ -25,7 +25,7 @@ struct ParametersHeader
 };
 
 /// Three neighbours "…_L1", "…_L2", "…_L3" make one cell with three columns. A group that stays unfinished
-/// has no cell, and what stands inside it has none either.
+/// has no cell, and what stands inside it has none either. Columns beyond the thousandth are left out.
 [[nodiscard]] ParametersHeader readParametersHeader(const QString& line);
 
 /// The fields of a line as they are shown, no more than the header has columns.
