@@ -9,6 +9,7 @@
 #include "admin/UpdateDownloadWindow.h"
 #include "app/Startup.h"
 #include "devices/UPSConfigurationWindow.h"
+#include "faults/Messages.h"
 #include "link/UpsSocketController.h"
 #include "logs/LoggingConfigurationWindow.h"
 #include "logs/UpsLogsWindow.h"
@@ -223,6 +224,13 @@ QStringList visibleTexts(const QDialog& dialog)
     return texts.filter(letters);
 }
 
+void use(QObject* control)
+{
+    const bool isTree = qobject_cast<const UpsTreeWidget*>(control);
+    const bool isAction = qobject_cast<const QAction*>(control);
+    QMetaObject::invokeMethod(control, isTree ? "addUpsActionTriggered" : isAction ? "trigger" : "click");
+}
+
 bool isField(const QWidget* widget)
 {
     return qobject_cast<const QLineEdit*>(widget) || qobject_cast<const QComboBox*>(widget) ||
@@ -276,6 +284,8 @@ private slots:
     void dialogsAreSound_data();
     void dialogsAreSound();
     void everyControlLeadsToItsDialog();
+    void dialogsTakeEveryMessage_data();
+    void dialogsTakeEveryMessage();
 };
 
 void DialogsTest::initTestCase()
@@ -347,9 +357,7 @@ void DialogsTest::everyControlLeadsToItsDialog()
     QTRY_VERIFY_WITH_TIMEOUT(panel.find<QAction>("actionUpsConfiguration")->isEnabled(), patience);
     for (const auto& [dialogName, button, action] : walk) {
         for (const char* control : {button, action}) {
-            const auto open = [object = panel.find(control)] {
-                QMetaObject::invokeMethod(object, qobject_cast<QAction*>(object) ? "trigger" : "click");
-            };
+            const auto open = [object = panel.find(control)] { use(object); };
             const auto look = [name = dialogName](const QDialog& dialog) {
                 QCOMPARE(dialog.metaObject()->className(), name);
             };
@@ -358,6 +366,51 @@ void DialogsTest::everyControlLeadsToItsDialog()
     }
     panel.window.reset();
     QVERIFY(stopService(service));
+    QCOMPARE(warnings(), QStringList());
+}
+
+void DialogsTest::dialogsTakeEveryMessage_data()
+{
+    QTest::addColumn<QByteArray>("control");
+    for (const auto& [dialogName, button, action] : walk)
+        QTest::newRow(dialogName) << QByteArray(button);
+    QTest::newRow("LogiInWindow") << QByteArray("actionActAsAdministrator");
+    QTest::newRow("AddUpsWindow") << QByteArray("upsTree");
+}
+
+void DialogsTest::dialogsTakeEveryMessage()
+{
+    QFETCH(QByteArray, control);
+    static const QVector<QByteArray> messages = serviceMessages();
+    const QtMessageHandler usual = qInstallMessageHandler(keepWarnings);
+    const auto restore = qScopeGuard([usual] { qInstallMessageHandler(usual); });
+    warnings().clear();
+    WindowFixture panel;
+    QVERIFY(panel.open(deviceList({device(7, "Tarvex33_SNMP", "A")})));
+    panel.window->enableAdministratorButtons();
+    QVERIFY(panel.send("<ups_configuration><epo>0</epo></ups_configuration>"));
+    QVERIFY(panel.send(stateReport("<input_voltage>230</input_voltage><events>2;3;4;5;6;7|</events>")));
+    QPointer<QDialog> opened;
+    const auto interrupt = [&](QDialog& dialog) {
+        opened = &dialog;
+        for (const QByteArray& message : messages) {
+            panel.service.send(message);
+            panel.service.sendTogether({message, message});
+            QVERIFY2(panel.settle(), message.left(200).constData());
+            (void)takeMessages();
+        }
+        // The device of the dialog is gone by now, and the connection breaks off within a message.
+        const QByteArray frame = ScriptedService::frame(messages.constFirst());
+        panel.service.sendRaw(frame.left(frame.size() / 2));
+        panel.service.resetConnection();
+        QVERIFY(panel.service.waitForConnections(2));
+        QVERIFY(panel.settle());
+    };
+    const bool came = driveModal<QDialog>([&] { use(panel.find(control.constData())); }, interrupt);
+    QVERIFY(came);
+    QTRY_VERIFY(!opened);
+    QVERIFY(panel.settle());
+    panel.window.reset();
     QCOMPARE(warnings(), QStringList());
 }
 
