@@ -6,7 +6,7 @@
 #include "monitor/VelmoraWindow.h"
 #include "screenshots/Album.h"
 #include "screenshots/PanelDriver.h"
-#include "screenshots/ServiceProcess.h"
+#include "support/ServiceProcess.h"
 
 #include <QApplication>
 #include <QCheckBox>

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Velmora developers
 // SPDX-License-Identifier: MIT
-#include "screenshots/ServiceProcess.h"
+#include "support/ServiceProcess.h"
+
+#include <QCoreApplication>
 
 #include <cstdio>
 
@@ -11,9 +13,9 @@ constexpr int stopTime = 5000;
 
 } // namespace
 
-ServiceProcess::ServiceProcess(const QString& program, const QString& address)
+ServiceProcess::ServiceProcess(const QString& program, const QString& address, const QStringList& options)
     : m_program(program)
-    , m_address(address)
+    , m_arguments(QStringList{QStringLiteral("--listen"), address} + options)
 {
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
 }
@@ -25,22 +27,23 @@ ServiceProcess::~ServiceProcess()
 
 bool ServiceProcess::start()
 {
-    m_process.start(m_program, {QStringLiteral("--listen"), m_address});
+    m_process.start(m_program, m_arguments);
     // Its first line says that it listens.
     if (m_process.waitForStarted(startTime) && m_process.waitForReadyRead(startTime))
         return true;
-    std::fprintf(stderr, "velmora-screenshots: %s does not start: %s\n", qUtf8Printable(m_program),
-                 qUtf8Printable(m_process.errorString()));
+    std::fprintf(stderr, "%s: %s does not start: %s\n", qUtf8Printable(QCoreApplication::applicationName()),
+                 qUtf8Printable(m_program), qUtf8Printable(m_process.errorString()));
     return false;
 }
 
-void ServiceProcess::stop()
+bool ServiceProcess::stop()
 {
     if (m_process.state() == QProcess::NotRunning)
-        return;
+        return false;
     m_process.terminate();
     if (!m_process.waitForFinished(stopTime)) {
         m_process.kill();
         m_process.waitForFinished(stopTime);
     }
+    return m_process.exitStatus() == QProcess::NormalExit && m_process.exitCode() == 0;
 }

@@ -1,0 +1,166 @@
+// SPDX-FileCopyrightText: 2026 The Velmora developers
+// SPDX-License-Identifier: MIT
+#include "soak/RandomUser.h"
+
+#include "admin/core/PasswordRules.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QFileDialog>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QRegularExpression>
+
+namespace {
+
+constexpr char seenProperty[] = "seenByTheSoak";
+
+// One thing in so many done in a dialog is to close it.
+constexpr int patience = 40;
+
+template <typename Widget>
+QList<Widget*> usable(const QWidget* parent)
+{
+    QList<Widget*> found;
+    for (Widget* widget : parent->findChildren<Widget*>()) {
+        if (widget->window() == parent->window() && widget->isVisible() && widget->isEnabled())
+            found.append(widget);
+    }
+    return found;
+}
+
+} // namespace
+
+RandomUser::RandomUser(QWidget* window, quint32 seed)
+    : m_window(window)
+    , m_random(seed)
+{}
+
+void RandomUser::act()
+{
+    if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget()))
+        actIn(menu);
+    else if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+        actIn(dialog);
+    else if (!closeTop())
+        actInMainWindow();
+}
+
+bool RandomUser::closeTop()
+{
+    QWidget* top = QApplication::activePopupWidget();
+    if (!top)
+        top = QApplication::activeModalWidget();
+    if (top)
+        QMetaObject::invokeMethod(top, &QWidget::close, Qt::QueuedConnection);
+    return top != nullptr;
+}
+
+void RandomUser::actInMainWindow()
+{
+    switch (below(4)) {
+    case 0: {
+        // Neither the end of the panel nor a browser.
+        QList<QAction*> actions = m_window->findChildren<QAction*>(
+            QRegularExpression(QStringLiteral("^action(?!Exit|OnlineHelp)")));
+        if (QAction* action = actions.at(below(actions.size())); action->isEnabled())
+            QMetaObject::invokeMethod(action, &QAction::trigger, Qt::QueuedConnection);
+        break;
+    }
+    case 1: {
+        auto* tree = m_window->findChild<QAbstractItemView*>(QStringLiteral("upsTree"));
+        const QPoint place = tree->visualRect(tree->currentIndex()).center();
+        QMetaObject::invokeMethod(
+            tree, [tree, place] { emit tree->customContextMenuRequested(place); }, Qt::QueuedConnection);
+        break;
+    }
+    case 2:
+        selectOne(m_window);
+        break;
+    default:
+        clickOne(m_window);
+        break;
+    }
+}
+
+void RandomUser::actIn(QMenu* menu)
+{
+    const QList<QAction*> actions = menu->actions();
+    menu->setActiveAction(actions.at(below(actions.size())));
+    QCoreApplication::postEvent(menu, new QKeyEvent(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier));
+    // An action that is disabled leaves the menu open.
+    QCoreApplication::postEvent(menu, new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier));
+}
+
+void RandomUser::actIn(QDialog* dialog)
+{
+    const QString name = QLatin1String(dialog->metaObject()->className());
+    if (!dialog->property(seenProperty).toBool()) {
+        dialog->setProperty(seenProperty, true);
+        ++m_opened[name];
+        if (name == QLatin1String("LogiInWindow"))
+            dialog->findChild<QLineEdit*>()->setText(Velmora::defaultAdministratorPassword());
+        return;
+    }
+    // Another address would lead the panel away, and a file dialog to the files of whoever runs this.
+    if (name == QLatin1String("ConnectWithServiceWindow") || qobject_cast<QFileDialog*>(dialog) ||
+        below(patience) == 0) {
+        (void)closeTop();
+        return;
+    }
+    switch (below(4)) {
+    case 0:
+        selectOne(dialog);
+        break;
+    case 1:
+        if (name != QLatin1String("LogiInWindow"))
+            typeOne(dialog);
+        break;
+    default:
+        clickOne(dialog);
+        break;
+    }
+}
+
+void RandomUser::clickOne(const QWidget* dialog)
+{
+    const QList<QAbstractButton*> buttons = usable<QAbstractButton>(dialog);
+    if (!buttons.isEmpty())
+        QMetaObject::invokeMethod(buttons.at(below(buttons.size())), &QAbstractButton::click,
+                                  Qt::QueuedConnection);
+}
+
+void RandomUser::selectOne(const QWidget* dialog)
+{
+    const QList<QComboBox*> boxes = usable<QComboBox>(dialog);
+    const QList<QAbstractItemView*> views = usable<QAbstractItemView>(dialog);
+    const int choice = below(boxes.size() + views.size() + 1);
+    if (choice < boxes.size()) {
+        boxes.at(choice)->setCurrentIndex(below(boxes.at(choice)->count() + 1) - 1);
+    } else if (choice < boxes.size() + views.size()) {
+        QAbstractItemView* view = views.at(choice - boxes.size());
+        const QAbstractItemModel* model = view->model();
+        if (!model)
+            return;
+        const QModelIndex top = model->index(below(model->rowCount() + 1), 0);
+        const int children = model->rowCount(top);
+        view->setCurrentIndex(children > 0 && below(2) == 0 ? model->index(below(children), 0, top) : top);
+        if (below(2) == 0)
+            QMetaObject::invokeMethod(
+                view, [view] { emit view->doubleClicked(view->currentIndex()); }, Qt::QueuedConnection);
+    }
+}
+
+void RandomUser::typeOne(const QWidget* dialog)
+{
+    static const QStringList texts{QString(), QStringLiteral("1"), QStringLiteral("127.0.0.1"),
+                                   QStringLiteral("a@b.example"), QStringLiteral("ŁADOWANIE  ON (")};
+    const QList<QLineEdit*> fields = usable<QLineEdit>(dialog);
+    if (!fields.isEmpty())
+        fields.at(below(fields.size()))->setText(texts.at(below(texts.size())));
+}
