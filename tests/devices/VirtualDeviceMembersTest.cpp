@@ -1,12 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Velmora developers
 // SPDX-License-Identifier: MIT
 #include "devices/core/VirtualDeviceMembers.h"
-#include "devices/AddVirtualUpsWindow.h"
 
-#include <QDialogButtonBox>
-#include <QPushButton>
 #include <QTest>
-#include <QTreeWidget>
 
 using namespace Velmora;
 using Utils::Ups;
@@ -61,15 +57,7 @@ private slots:
         }
         QTEST(rows.join(QLatin1Char('|')), "rows");
     }
-
-    void nothingToPickCannotBeSaved()
-    {
-        AddVirtualUpsWindow window(nullptr);
-        window.displayAvailableParallelDevices(units("1"));
-        QVERIFY(!window.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->isEnabled());
-        QCOMPARE(window.findChild<QTreeWidget*>()->topLevelItemCount(), 1);
-    }
 };
 
-QTEST_MAIN(VirtualDeviceMembersTest)
+QTEST_GUILESS_MAIN(VirtualDeviceMembersTest)
 #include "VirtualDeviceMembersTest.moc"
