@@ -64,6 +64,10 @@ void adoptComputer(const NetworkConfigurationWindow& window)
 {
     const auto adopt = [](ComputerConfigurationWindow& dialog) {
         typeInto(dialog, "computerNameEdit", QStringLiteral("Księgowość"));
+        typeInto(dialog, "passwordEdit", QStringLiteral("klient"));
+        dialog.okButtonClickHandler();
+        QCOMPARE(awaitMessages().size(), 1);
+        QVERIFY(dialog.isVisible()); // not without the right one
         typeInto(dialog, "passwordEdit", QStringLiteral("Klient"));
         dialog.okButtonClickHandler();
         QTRY_VERIFY_WITH_TIMEOUT(dialog.isHidden(), patience);
@@ -83,6 +87,9 @@ void adoptComputer(const NetworkConfigurationWindow& window)
 void makeGroup(const NetworkConfigurationWindow& window)
 {
     const auto make = [](GroupConfigurationWindow& dialog) {
+        typeInto(dialog, "groupNameEdit", QStringLiteral("Default"));
+        pressOk(dialog);
+        QCOMPARE(takeMessages().size(), 1); // the name is taken
         typeInto(dialog, "groupNameEdit", QStringLiteral("Biuro Łódź"));
         dialog.findChild<QTreeWidget*>(QStringLiteral("availableComputersTree"))->selectAll();
         dialog.addToGroupButtonHandler();

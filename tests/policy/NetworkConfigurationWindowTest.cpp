@@ -7,8 +7,6 @@
 #include "link/UpsSocketController.h"
 #include "link/XmlWriter.h"
 #include "policy/ComputerConfigurationWindow.h"
-#include "policy/DiscoverWindow.h"
-#include "policy/GroupConfigurationWindow.h"
 #include "support/ModalDriver.h"
 #include "support/ScriptedPrompts.h"
 #include "support/ScriptedService.h"
@@ -24,7 +22,6 @@ using Velmora::Utils::makeMd5;
 namespace {
 
 const QString secret = QStringLiteral("Hasło 1");
-const QString wrong = QStringLiteral("Nieprawidłowe hasło|Podane hasło Administratora jest nieprawidłowe");
 
 Computer computer(int id, const char* name, const QString& address)
 {
@@ -33,11 +30,6 @@ Computer computer(int id, const char* name, const QString& address)
     computer.name = QString::fromUtf8(name);
     computer.address = address;
     return computer;
-}
-
-Group group(int id, const char* name, const QVector<int>& computers)
-{
-    return {QString::fromUtf8(name), computers, id};
 }
 
 // With what the editor does not show, too.
@@ -70,13 +62,10 @@ private slots:
     void init();
     void cleanup();
     void policyIsSentWhole();
-    void lateAnswersLeaveTheEditorAlone();
     void lockedDialogStaysLocked();
     void computerIsAddedByItsClientsPassword();
     void changedPasswordAsksToBeSaved();
-    void groupKeepsMembersWithoutItsName();
     void removalAsksFirst();
-    void reportsAreListedOnce();
 
 private:
     template <typename T>
@@ -119,7 +108,7 @@ void NetworkConfigurationWindowTest::init()
     window->setSocketController(link.get());
     connect(link.get(), &UpsSocketController::netclientPass, window.get(),
             &NetworkConfigurationWindow::netclientPasswReceived);
-    window->setGroupsFromConfig({group(0, "Default", {0}), group(1, "Biuro", {1, 0})});
+    window->setGroupsFromConfig({{QStringLiteral("Default"), {0}, 0}, {QStringLiteral("Biuro"), {1, 0}, 1}});
     window->setEventsFromConfig({everyAction()});
     window->setAllComputers(
         {computer(0, "A", QStringLiteral("127.0.0.1")), computer(1, "B&B", QStringLiteral("192.0.2.1"))});
@@ -174,19 +163,6 @@ void NetworkConfigurationWindowTest::policyIsSentWhole()
         QCOMPARE(service->requests().at(i).xml,
                  '<' + name + "><pass></pass>" + bodies[i] + "</" + name + '>');
     }
-}
-
-void NetworkConfigurationWindowTest::lateAnswersLeaveTheEditorAlone()
-{
-    click("addEventButton");
-    window->setEventsFromConfig(QVector<Event>(50, everyAction()));
-    window->setGroupsFromConfig({});
-    window->setAllComputers({});
-    click("saveEventButton");
-    QCOMPARE(awaitMessages().size(), 1); // the work mode stands in the group already
-    QCOMPARE(window->model().events().size(), 51);
-    click("cancelEventButton");
-    QCOMPARE(window->model().events().size(), 50);
 }
 
 void NetworkConfigurationWindowTest::lockedDialogStaysLocked()
@@ -255,22 +231,6 @@ void NetworkConfigurationWindowTest::changedPasswordAsksToBeSaved()
     QVERIFY(window->isHidden());
 }
 
-void NetworkConfigurationWindowTest::groupKeepsMembersWithoutItsName()
-{
-    select(1);
-    const auto edit = [this](GroupConfigurationWindow& dialog) {
-        window->setGroupsFromConfig(window->model().groups());
-        typeInto(dialog, "groupNameEdit", QStringLiteral("Default"));
-        dialog.accept();
-        QCOMPARE(takeMessages().size(), 1);
-        dialog.findChild<QTreeWidget*>(QStringLiteral("computersInGroupTree"))->selectAll();
-        dialog.removeFromGroupButtonHandler();
-    };
-    QVERIFY(driveModal<GroupConfigurationWindow>([this] { click("editButton"); }, edit));
-    QCOMPARE(window->model().group(1)->name, QStringLiteral("Biuro"));
-    QCOMPARE(window->model().group(1)->computers, QVector<int>());
-}
-
 void NetworkConfigurationWindowTest::removalAsksFirst()
 {
     auto* tree = find<QTreeWidget>("availableComputers");
@@ -284,19 +244,6 @@ void NetworkConfigurationWindowTest::removalAsksFirst()
     // No row is selected now, but the events of the last one still stand and can be edited.
     editFirstEvent();
     QCOMPARE(window->model().events().constFirst().parentId, 0);
-}
-
-void NetworkConfigurationWindowTest::reportsAreListedOnce()
-{
-    DiscoverWindow dialog(nullptr);
-    const QVector<Computer> known{computer(1, "A", QStringLiteral("192.0.2.1:99"))};
-    dialog.setComputers(&known);
-    for (const char* ip : {"198.51.100.7", "198.51.100.7", "192.0.2.1"})
-        dialog.addComputerIp(QLatin1String(ip));
-    QCOMPARE(dialog.findChild<QTreeWidget*>(QStringLiteral("unmanagedComputersTree"))->topLevelItemCount(),
-             1);
-    const auto* managed = dialog.findChild<QTreeWidget*>(QStringLiteral("managedComputersTree"));
-    QVERIFY(!managed->topLevelItem(0)->isDisabled());
 }
 
 QTEST_MAIN(NetworkConfigurationWindowTest)
