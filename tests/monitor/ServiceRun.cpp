@@ -26,7 +26,8 @@ bool startService(QProcess& service, const QStringList& options)
 bool stopService(QProcess& service)
 {
     service.terminate();
-    return service.waitForFinished() && service.exitStatus() == QProcess::NormalExit;
+    return service.waitForFinished() && service.exitStatus() == QProcess::NormalExit &&
+           service.exitCode() == 0;
 }
 
 bool openOnService(WindowFixture& panel, const QString& row)

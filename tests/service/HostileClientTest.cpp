@@ -42,12 +42,12 @@ void HostileClientTest::cleanup()
 
 void HostileClientTest::brokenFrameEndsThisConnectionOnly()
 {
-    QByteArray flipped = frameOf("<get_service_version><pass></pass></get_service_version>");
+    QByteArray flipped = ScriptedService::frame("<get_service_version><pass></pass></get_service_version>");
     flipped[20] = static_cast<char>(flipped.at(20) ^ 1);
     // Just beyond 1 MiB, the top bit of the size, nothing, one byte, an empty document.
-    for (const QByteArray& bytes :
-         {QByteArray("\x00\x10\x00\x01", 4), QByteArray("\xff\xff\xff\xf0", 4),
-          QByteArray("\x00\x00\x00\x00", 4), QByteArray("\x00\x00\x00\x01\x03", 5), frameOf(""), flipped}) {
+    for (const QByteArray& bytes : {QByteArray("\x00\x10\x00\x01", 4), QByteArray("\xff\xff\xff\xf0", 4),
+                                    QByteArray("\x00\x00\x00\x00", 4), QByteArray("\x00\x00\x00\x01\x03", 5),
+                                    ScriptedService::frame(""), flipped}) {
         PanelClient hostile;
         QVERIFY(hostile.isConnected());
         hostile.sendRaw(bytes);
@@ -65,7 +65,7 @@ void HostileClientTest::malformedRequestIsDropped()
           QByteArray(8 * 1024 * 1024, ' ')}) {
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("not well-formed XML")));
         PanelClient hostile;
-        hostile.sendRaw(frameOf("<events>" + content + "</events>"));
+        hostile.sendRaw(ScriptedService::frame("<events>" + content + "</events>"));
         QVERIFY(hostile.synchronize());
     }
 }
@@ -73,7 +73,8 @@ void HostileClientTest::malformedRequestIsDropped()
 void HostileClientTest::framesMayBeSplitAndJoined()
 {
     PanelClient client;
-    const QByteArray request = frameOf("<get_service_version><pass></pass></get_service_version>");
+    const QByteArray request =
+        ScriptedService::frame("<get_service_version><pass></pass></get_service_version>");
     for (const char byte : request) {
         client.sendRaw(QByteArray(1, byte));
         QCoreApplication::processEvents();
@@ -94,10 +95,10 @@ void HostileClientTest::clientThatDoesNotReadIsDropped()
 {
     QTcpSocket deaf;
     deaf.setReadBufferSize(1);
-    deaf.connectToHost(ownAddress(), Velmora::servicePort);
+    deaf.connectToHost(ScriptedService::testAddress(), Velmora::servicePort);
     QVERIFY(deaf.waitForConnected());
     const QByteArray requests =
-        frameOf("<get_ups_model_list><pass></pass></get_ups_model_list>").repeated(500);
+        ScriptedService::frame("<get_ups_model_list><pass></pass></get_ups_model_list>").repeated(500);
     // The system's own buffers take some megabytes before the service sees that nobody reads.
     QElapsedTimer timer;
     timer.start();

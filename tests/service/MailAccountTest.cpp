@@ -27,7 +27,7 @@ public:
     explicit MailServer(const QString& script)
         : m_script(script.split(QLatin1Char(';'), Qt::SkipEmptyParts))
     {
-        listen(QHostAddress(ownAddress()));
+        listen(QHostAddress(ScriptedService::testAddress()));
     }
     QByteArray told;
 
@@ -130,7 +130,7 @@ void MailAccountTest::accountIsTried()
         client.setPassword(administratorPassword);
         QByteArray fields = "<smtp2_sender_address>u@t</smtp2_sender_address><smtp2_timeout>1</smtp2_timeout>"
                             "<smtp2_user>u:s</smtp2_user><smtp2_pass>p:s</smtp2_pass>";
-        fields += "<smtp2_server>" + ownAddress().toLatin1() + "</smtp2_server>";
+        fields += "<smtp2_server>" + ScriptedService::testAddress().toLatin1() + "</smtp2_server>";
         fields += "<smtp2_port>" + QByteArray::number(server.serverPort()) + "</smtp2_port>";
         fields += "<smtp2_security_type>" + account.at(0) + "</smtp2_security_type>";
         fields += "<smtp2_authentication>" + account.at(1) + "</smtp2_authentication>";

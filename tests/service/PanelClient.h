@@ -6,6 +6,7 @@
 #include "link/Frame.h"
 #include "link/ServiceEndpoint.h"
 #include "service/ReferenceService.h"
+#include "support/ScriptedService.h"
 
 #include <QCryptographicHash>
 #include <QNetworkProxy>
@@ -20,28 +21,15 @@ namespace Velmora::Tests {
 /// The password that a fresh service takes for the administrator's.
 constexpr const char* administratorPassword = "Opiekunsystem";
 
-/// The loopback address that is the test's own.
-inline QString ownAddress()
-{
-    return qEnvironmentVariable("VELMORA_TEST_ADDRESS");
-}
-
 /// A service on the test's own address; ends the process if it does not start.
 inline std::unique_ptr<Service::ReferenceService> startService(Service::Options options = {})
 {
-    options.listen = QHostAddress(ownAddress());
+    options.listen = QHostAddress(ScriptedService::testAddress());
     QString reason;
     auto service = std::make_unique<Service::ReferenceService>();
     if (!service->start(options, reason))
         qFatal("%s", qPrintable(reason));
     return service;
-}
-
-/// The document as a frame of the wire.
-inline QByteArray frameOf(const QByteArray& document)
-{
-    const QByteArray blob = Velmora::encrypt(document);
-    return Velmora::Utils::prepareMessageSize(blob) + blob;
 }
 
 /// MD5 text of a password.
@@ -77,7 +65,7 @@ public:
     {
         m_socket.setProxy(QNetworkProxy::NoProxy);
         QObject::connect(&m_socket, &QTcpSocket::readyRead, &m_socket, [this] { read(); });
-        m_socket.connectToHost(ownAddress(), Velmora::servicePort);
+        m_socket.connectToHost(ScriptedService::testAddress(), Velmora::servicePort);
         static_cast<void>(QTest::qWaitFor(
             [this] { return isConnected() || m_socket.state() == QAbstractSocket::UnconnectedState; }));
     }
@@ -87,7 +75,8 @@ public:
 
     void send(const QByteArray& name, const QByteArray& body = QByteArray())
     {
-        sendRaw(frameOf("<" + name + "><pass>" + m_pass + "</pass>" + body + "</" + name + ">"));
+        sendRaw(
+            ScriptedService::frame("<" + name + "><pass>" + m_pass + "</pass>" + body + "</" + name + ">"));
     }
     void sendRaw(const QByteArray& bytes)
     {

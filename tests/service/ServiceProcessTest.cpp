@@ -7,8 +7,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <csignal>
-
 using namespace Velmora::Tests;
 
 /// The program itself: what its options do and what a signal leaves behind.
@@ -18,7 +16,6 @@ class ServiceProcessTest final : public QObject
 
 private slots:
     void badStartEndsWithOneLine();
-    void signalEndsItCleanly();
     void killLosesNothingThatWasShown();
 
 private:
@@ -30,15 +27,16 @@ private:
 void ServiceProcessTest::start(QProcess& process, const QStringList& arguments)
 {
     process.start(QStringLiteral(VELMORA_SERVICE_PROGRAM),
-                  QStringList{QStringLiteral("--listen"), ownAddress()} + arguments);
+                  QStringList{QStringLiteral("--listen"), ScriptedService::testAddress()} + arguments);
     QTRY_VERIFY_WITH_TIMEOUT(process.canReadLine(), 10000);
-    QCOMPARE(process.readLine(), "velmora-service 2.5.1 listens on " + ownAddress().toLatin1() + ":12323\n");
+    QCOMPARE(process.readLine(),
+             "velmora-service 2.5.1 listens on " + ScriptedService::testAddress().toLatin1() + ":12323\n");
 }
 
 void ServiceProcessTest::badStartEndsWithOneLine()
 {
     QTcpServer other;
-    QVERIFY(other.listen(QHostAddress(ownAddress()), Velmora::servicePort));
+    QVERIFY(other.listen(QHostAddress(ScriptedService::testAddress()), Velmora::servicePort));
     // Arguments and what the error names; the port of the own address is taken.
     for (const char* row :
          {"--port 5|port", "here|here", "--listen nowhere|nowhere", "--seed 2|:12323",
@@ -49,7 +47,7 @@ void ServiceProcessTest::badStartEndsWithOneLine()
         const QString named = QString::fromLatin1(row).section(QLatin1Char('|'), 1);
         QProcess process;
         process.start(QStringLiteral(VELMORA_SERVICE_PROGRAM),
-                      QStringList{QStringLiteral("--listen"), ownAddress()} +
+                      QStringList{QStringLiteral("--listen"), ScriptedService::testAddress()} +
                           arguments.split(QLatin1Char(' ')));
         QVERIFY(process.waitForFinished());
         QVERIFY2(process.exitStatus() == QProcess::NormalExit && process.exitCode() == 2, row);
@@ -58,21 +56,6 @@ void ServiceProcessTest::badStartEndsWithOneLine()
                      error.count(QLatin1Char('\n')) == 1,
                  qPrintable(error));
         QVERIFY(process.readAllStandardOutput().isEmpty());
-    }
-}
-
-void ServiceProcessTest::signalEndsItCleanly()
-{
-    for (const int signal : {SIGTERM, SIGINT}) {
-        QProcess process;
-        start(process);
-        PanelClient client;
-        QVERIFY(client.synchronize());
-        QCOMPARE(::kill(static_cast<pid_t>(process.processId()), signal), 0);
-        QVERIFY(process.waitForFinished());
-        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(process.exitCode(), 0);
-        QTRY_VERIFY(!client.isConnected());
     }
 }
 
