@@ -182,6 +182,7 @@ void NetworkConfigurationWindowTest::computerIsAddedByItsClientsPassword()
     const auto add = [this](ComputerConfigurationWindow& dialog) {
         typeInto(dialog, "computerAddressEdit", QStringLiteral("192.0.2.9"));
         dialog.findChild<QComboBox*>(QStringLiteral("groupBox"))->setCurrentText(QStringLiteral("Biuro"));
+        typeInto(dialog, "passwordEdit", secret.toLower());
         for (int press = 0; press < 2; ++press)
             dialog.okButtonClickHandler();
         QVERIFY(service->waitForRequest("get_netclient_pass"));
