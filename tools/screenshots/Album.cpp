@@ -4,8 +4,9 @@
 
 #include "screenshots/PanelDriver.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDialog>
+#include <QWindow>
 
 #include <cstdio>
 
@@ -25,20 +26,32 @@ bool Album::add(const QString& name, const QString& caption, const std::function
 }
 
 bool Album::addDialog(const std::function<void()>& open, const QString& name, const QString& caption,
-                      const std::function<bool(QDialog*)>& ready)
+                      const std::function<bool(QDialog*)>& prepare)
 {
-    constexpr int fillTime = 5000;
     bool saved = false;
     const bool opened = m_panel.withDialog(open, [&](QDialog* dialog) {
-        if (PanelDriver::waitUntil([&] { return ready(dialog); }, fillTime))
-            saved = save(name, caption, dialog);
-        else
-            std::fprintf(stderr, "velmora-screenshots: nothing came into the dialog for %s\n",
-                         qUtf8Printable(caption));
+        saved = prepare(dialog) && save(name, caption, dialog);
         dialog->reject();
     });
-    if (!opened)
-        std::fprintf(stderr, "velmora-screenshots: no dialog for %s\n", qUtf8Printable(caption));
+    if (!opened || !saved)
+        std::fprintf(stderr, "velmora-screenshots: no picture of %s\n", qUtf8Printable(caption));
+    return saved;
+}
+
+bool Album::addMenu(const std::function<void()>& open, const QString& name, const QString& caption)
+{
+    constexpr int openTime = 2000;
+    open();
+    QWidget* menu = nullptr;
+    const bool shown = PanelDriver::waitUntil(
+        [&menu] {
+            menu = QApplication::activePopupWidget();
+            return menu && menu->windowHandle()->isExposed();
+        },
+        openTime);
+    const bool saved = shown && save(name, caption, menu);
+    if (menu)
+        menu->close();
     return saved;
 }
 

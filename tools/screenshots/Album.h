@@ -21,10 +21,15 @@ public:
     [[nodiscard]] bool add(const QString& name, const QString& caption,
                            const std::function<bool()>& condition, int milliseconds);
 
-    /// Saves a picture of the dialog that `open` brings up, once it is ready, and closes it.
+    /// Saves a picture of the dialog that `open` brings up and closes it. `prepare` waits until it shows what
+    /// it has to show; false if that does not come.
     [[nodiscard]] bool addDialog(
         const std::function<void()>& open, const QString& name, const QString& caption,
-        const std::function<bool(QDialog*)>& ready = [](QDialog* /*dialog*/) { return true; });
+        const std::function<bool(QDialog*)>& prepare = [](QDialog* /*dialog*/) { return true; });
+
+    /// Saves a picture of the menu that `open` pops up and closes it.
+    [[nodiscard]] bool addMenu(const std::function<void()>& open, const QString& name,
+                               const QString& caption);
 
 private:
     [[nodiscard]] bool save(const QString& name, const QString& caption, const QWidget* window);

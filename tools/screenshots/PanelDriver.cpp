@@ -6,19 +6,51 @@
 #include "monitor/UpsTreeWidget.h"
 #include "monitor/widgets/LineEditWidget.h"
 
-#include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QDeadlineTimer>
 #include <QDialog>
 #include <QEventLoop>
 #include <QLabel>
+#include <QMainWindow>
+#include <QMetaProperty>
 #include <QProgressBar>
+#include <QRegularExpression>
 #include <QScreen>
+#include <QTextEdit>
 #include <QTimer>
+#include <QTreeWidget>
 #include <QWindow>
 
-PanelDriver::PanelDriver(QWidget* window)
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+QTreeWidgetItem* lastRow(const QTreeWidget& tree)
+{
+    QTreeWidgetItem* row = tree.topLevelItem(tree.topLevelItemCount() - 1);
+    while (row && row->childCount() > 0)
+        row = row->child(row->childCount() - 1);
+    return row;
+}
+
+bool isReady(const QObject* object)
+{
+    const auto* widget = qobject_cast<const QWidget*>(object);
+    const auto* action = qobject_cast<const QAction*>(object);
+    const auto* view = qobject_cast<const QAbstractItemView*>(object);
+    const auto* text = qobject_cast<const QTextEdit*>(object);
+    if (!object || (widget && !(widget->isVisible() && widget->isEnabled())) ||
+        (action && !action->isEnabled()))
+        return false;
+    return !(view && view->model()->rowCount() == 0) && !(text && text->document()->isEmpty());
+}
+
+} // namespace
+
+PanelDriver::PanelDriver(QMainWindow* window)
     : m_window(window)
 {}
 
@@ -42,16 +74,24 @@ int PanelDriver::deviceCount() const
     return static_cast<int>(m_window->findChild<UpsTreeWidget*>()->allElements().size());
 }
 
-bool PanelDriver::select(const QString& modelName)
+bool PanelDriver::showDevice(const QString& modelName) const
 {
+    constexpr int reportTime = 4000;
     auto* tree = m_window->findChild<UpsTreeWidget*>();
-    for (UpsTreeElement* element : tree->allElements()) {
-        if (element->ups.model_name.startsWith(modelName)) {
-            tree->setCurrentItem(element);
-            return true;
-        }
-    }
-    return false;
+    const auto fits = [&modelName](const UpsTreeElement* element) {
+        return element && element->ups.model_name.startsWith(modelName);
+    };
+    if (fits(tree->currentElement()))
+        return true;
+    const std::vector<UpsTreeElement*> rows = tree->allElements();
+    const auto row = std::find_if(rows.begin(), rows.end(), fits);
+    if (row == rows.end())
+        return false;
+    const QStringList before = values();
+    tree->setCurrentItem(*row);
+    // The first report after a selection may still be one of the device before, and the two may be alike.
+    (void)waitUntil([&] { return values() != before; }, reportTime);
+    return true;
 }
 
 QString PanelDriver::fieldText(const char* name) const
@@ -92,27 +132,45 @@ QString PanelDriver::describe() const
         .arg(element->text(0), element->modelFullName, fieldText("workModeEdit"), load);
 }
 
-void PanelDriver::trigger(const char* name) const
+QObject* PanelDriver::objectOf(const QString& step, const QWidget* window) const
 {
-    if (auto* action = m_window->findChild<QAction*>(QLatin1String(name)))
-        action->trigger();
+    static const QRegularExpression nameEnd(QStringLiteral("[.=?].*"));
+    return (window ? window : m_window)->findChild<QObject*>(QString(step).remove(nameEnd));
+}
+
+bool PanelDriver::await(const QString& step, const QWidget* window) const
+{
+    constexpr int readyTime = 15000;
+    if (waitUntil([&] { return isReady(objectOf(step, window)); }, readyTime))
+        return true;
+    std::fprintf(stderr, "velmora-screenshots: %s does not become ready\n", qUtf8Printable(step));
+    return false;
+}
+
+void PanelDriver::act(const QString& step, const QWidget* window) const
+{
+    QObject* object = objectOf(step, window);
+    const QString value = step.section(QLatin1Char('='), 1).replace(QLatin1Char('_'), QLatin1Char(' '));
+    if (step.endsWith(QLatin1Char('?')))
+        return;
+    if (!value.isEmpty())
+        object->setProperty(object->metaObject()->userProperty().name(), value);
+    else if (step.contains(QLatin1Char('.')))
+        QMetaObject::invokeMethod(object, step.section(QLatin1Char('.'), 1).toLatin1().constData());
+    else if (auto* tree = qobject_cast<QTreeWidget*>(object))
+        tree->setCurrentItem(lastRow(*tree));
     else
-        m_window->findChild<QAbstractButton*>(QLatin1String(name))->click();
+        QMetaObject::invokeMethod(object, qobject_cast<QAction*>(object) ? "trigger" : "click");
 }
 
-bool PanelDriver::canTrigger(const char* button) const
+bool PanelDriver::take(const QStringList& steps, const QWidget* window) const
 {
-    return m_window->findChild<QAbstractButton*>(QLatin1String(button))->isEnabled();
-}
-
-void PanelDriver::requestNewDevice() const
-{
-    emit m_window->findChild<UpsTreeWidget*>()->addUpsActionTriggered();
-}
-
-void PanelDriver::requestChange() const
-{
-    m_window->findChild<UpsTreeWidget*>()->editActionTriggeredSlot();
+    return std::all_of(steps.begin(), steps.end(), [this, window](const QString& step) {
+        if (!await(step, window))
+            return false;
+        act(step, window);
+        return true;
+    });
 }
 
 bool PanelDriver::withDialog(const std::function<void()>& open,
@@ -120,12 +178,13 @@ bool PanelDriver::withDialog(const std::function<void()>& open,
 {
     constexpr int lookInterval = 50;
     bool used = false;
+    const QWidget* before = QApplication::activeModalWidget();
     // Opening returns only when the dialog is closed, so the dialog is used from a timer that runs
     // meanwhile.
     QTimer looks;
     QObject::connect(&looks, &QTimer::timeout, m_window, [&] {
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (!dialog || used)
+        if (!dialog || dialog == before || used)
             return;
         used = true;
         use(dialog);
@@ -138,5 +197,6 @@ bool PanelDriver::withDialog(const std::function<void()>& open,
 bool PanelDriver::save(const QString& path, const QWidget* window) const
 {
     const QWidget* pictured = window ? window : m_window;
-    return pictured->windowHandle()->screen()->grabWindow(pictured->winId()).save(path);
+    constexpr int smallestFile = 0;
+    return pictured->windowHandle()->screen()->grabWindow(pictured->winId()).save(path, "PNG", smallestFile);
 }

@@ -1,34 +1,30 @@
 // SPDX-FileCopyrightText: 2026 The Velmora developers
 // SPDX-License-Identifier: MIT
-#include "admin/core/PasswordRules.h"
 #include "app/ControlPanelConfiguration.h"
 #include "app/Startup.h"
 #include "monitor/VelmoraWindow.h"
+#include "monitor/widgets/DebugWarningWidget.h"
 #include "screenshots/Album.h"
+#include "screenshots/DialogTour.h"
 #include "screenshots/PanelDriver.h"
 #include "support/ServiceProcess.h"
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QCommandLineParser>
-#include <QDialog>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTableView>
+#include <QLabel>
 #include <QTranslator>
 
 #include <algorithm>
 #include <cstdio>
 #include <memory>
-#include <vector>
 
 // Opens the panel on a service, waits until what it is to show really stands on the display, and saves
-// pictures of it. With a service of its own it also shows how the panel takes its loss and its return.
+// pictures of it. With a service of its own it also shows how the panel takes its loss and its return, and on
+// request every dialog.
 
 namespace {
 
 constexpr int firstValuesTime = 20000;
-constexpr int reportTime = 4000;
 constexpr int lossTime = 15000;
 
 struct DevicePicture
@@ -44,17 +40,6 @@ constexpr DevicePicture devicePictures[] = {
     {"Borel", "genset", "a genset"},
 };
 
-// Selects a device and waits for its values; false if there is none of that model.
-bool showDevice(PanelDriver& panel, const char* model)
-{
-    const QStringList before = panel.values();
-    if (!panel.select(QLatin1String(model)))
-        return false;
-    // The first report after a selection may still be one of the device before, and the two may be alike.
-    (void)PanelDriver::waitUntil([&] { return panel.values() != before; }, reportTime);
-    return true;
-}
-
 bool takeDevicePictures(PanelDriver& panel, Album& album)
 {
     const auto live = [&panel] { return panel.showsLiveValues(); };
@@ -62,84 +47,36 @@ bool takeDevicePictures(PanelDriver& panel, Album& album)
                    firstValuesTime))
         return false;
     for (const DevicePicture& picture : devicePictures) {
-        if (showDevice(panel, picture.model) &&
+        if (panel.showDevice(QLatin1String(picture.model)) &&
             !album.add(QLatin1String(picture.name), QLatin1String(picture.caption), live, firstValuesTime))
             return false;
     }
     return true;
 }
 
-struct DialogPicture
+// What only an event at the site would bring about.
+bool takeAlarmPictures(VelmoraWindow& window, PanelDriver& panel, Album& album)
 {
-    std::function<void()> open;
-    const char* name;
-    const char* caption;
-};
-
-// The service is one of the program's own, with the password that it is installed with.
-bool logIn(const PanelDriver& panel)
-{
-    return panel.withDialog([&panel] { panel.trigger("actionActAsAdministrator"); },
-                            [](QDialog* dialog) {
-                                dialog->findChild<QLineEdit*>()->setText(
-                                    Velmora::defaultAdministratorPassword());
-                                dialog->accept();
-                            });
-}
-
-bool takeDialogPictures(PanelDriver& panel, Album& album)
-{
-    const auto triggering = [&panel](const char* name) { return [&panel, name] { panel.trigger(name); }; };
-    const std::vector<DialogPicture> pictures{
-        {triggering("exInfoButton"), "extended-information", "every measurement"},
-        {triggering("upsEventsButton"), "events", "the event history"},
-        {triggering("actionConnectWithService"), "service-address", "the service's address"},
-        {triggering("actionActAsAdministrator"), "login", "the login"},
-        {triggering("actionChangePassword"), "password", "a new administrator password"},
-        {triggering("actionApplicationConfiguration"), "application-settings", "the service's own settings"},
-        {triggering("actionAbout"), "about", "version and licence"},
-        {[&panel] { panel.requestNewDevice(); }, "new-device", "a new device"},
-        {[&panel] { panel.requestChange(); }, "changed-device", "a device that is changed"},
+    constexpr int secondsLeft = 95;
+    // The warning blinks.
+    const auto warns = [&window] {
+        const auto labels = window.findChild<DebugWarningWidget*>()->findChildren<QLabel*>();
+        return std::all_of(labels.begin(), labels.end(),
+                           [](const QLabel* label) { return label->isVisible(); });
     };
-    if (!showDevice(panel, "Tarvex33"))
-        return false;
-    return std::all_of(pictures.begin(), pictures.end(), [&](const DialogPicture& picture) {
-        const bool needsAdministrator = qstrcmp(picture.name, "password") == 0;
-        return (!needsAdministrator || logIn(panel)) &&
-               album.addDialog(picture.open, QLatin1String(picture.name), QLatin1String(picture.caption));
-    });
-}
-
-// The settings come from the service, and so does the leave to open them.
-bool takeSettingsPicture(PanelDriver& panel, Album& album)
-{
-    const auto hasRows = [](QDialog* dialog) { return dialog->findChild<QCheckBox*>() != nullptr; };
-    return PanelDriver::waitUntil([&panel] { return panel.canTrigger("upsConfigurationButton"); },
-                                  reportTime) &&
-           album.addDialog([&panel] { panel.trigger("upsConfigurationButton"); },
-                           QStringLiteral("device-settings"), QStringLiteral("the settings of a device"),
-                           hasRows);
-}
-
-// The logs open on top of the dialog that sets them.
-bool takeLogPictures(PanelDriver& panel, Album& album)
-{
-    if (!album.addDialog([&panel] { panel.trigger("loggingConfigurationButton"); },
-                         QStringLiteral("log-settings"), QStringLiteral("what is logged of a device")))
-        return false;
-    bool saved = false;
-    const auto hasColumns = [](QDialog* dialog) {
-        return dialog->findChild<QTableView*>()->model()->columnCount() > 1;
-    };
-    const auto openLog = [&](QDialog* dialog) {
-        const auto click = [dialog] {
-            dialog->findChild<QPushButton*>(QStringLiteral("showDataButton"))->click();
-        };
-        saved = album.addDialog(click, QStringLiteral("log"),
-                                QStringLiteral("measurements of a three-phase UPS"), hasColumns);
-        dialog->reject();
-    };
-    return panel.withDialog([&panel] { panel.trigger("loggingConfigurationButton"); }, openLog) && saved;
+    window.showCountdownTimer({{0, secondsLeft}});
+    window.debugModeEnabled(true);
+    const bool warned =
+        album.add(QStringLiteral("shutdown-countdown"),
+                  QStringLiteral("a coming shutdown, a service that is debugged"), warns, firstValuesTime);
+    window.clockCancel();
+    window.debugModeEnabled(false);
+    window.displayDaemonBusy(true);
+    const bool busy = album.add(
+        QStringLiteral("service-busy"), QStringLiteral("a busy service"),
+        [&panel] { return panel.showsLiveValues(); }, firstValuesTime);
+    window.displayDaemonBusy(false);
+    return warned && busy;
 }
 
 bool takeLossPictures(PanelDriver& panel, Album& album, ServiceProcess& service)
@@ -156,7 +93,7 @@ bool takeLossPictures(PanelDriver& panel, Album& album, ServiceProcess& service)
         [&panel] { return panel.showsLiveValues(); }, firstValuesTime);
 }
 
-int takePictures(const QString& serviceProgram, const QString& address, const QString& folder)
+int takePictures(const QString& serviceProgram, const QString& address, const QString& folder, bool dialogs)
 {
     std::unique_ptr<ServiceProcess> service;
     if (!serviceProgram.isEmpty()) {
@@ -169,9 +106,8 @@ int takePictures(const QString& serviceProgram, const QString& address, const QS
     PanelDriver panel(&window);
     Album album(panel, folder);
     const bool done =
-        takeDevicePictures(panel, album) &&
-        (!service || (takeDialogPictures(panel, album) && takeSettingsPicture(panel, album) &&
-                      takeLogPictures(panel, album) && takeLossPictures(panel, album, *service)));
+        takeDevicePictures(panel, album) && (!service || takeLossPictures(panel, album, *service)) &&
+        (!dialogs || (takeAlarmPictures(window, panel, album) && takeDialogPictures(panel, album, address)));
     std::printf("%d devices in the tree\n", panel.deviceCount());
     return done ? 0 : 1;
 }
@@ -201,8 +137,12 @@ int main(int argc, char** argv)
     const QCommandLineOption outputOption(QStringLiteral("output"),
                                           QStringLiteral("Folder for the pictures."),
                                           QStringLiteral("folder"), QStringLiteral("."));
-    parser.addOptions({serviceOption, addressOption, outputOption});
+    const QCommandLineOption dialogsOption(
+        QStringLiteral("dialogs"),
+        QStringLiteral("Show every dialog, too; the service has its first password."));
+    parser.addOptions({serviceOption, addressOption, outputOption, dialogsOption});
     parser.addHelpOption();
     parser.process(application);
-    return takePictures(parser.value(serviceOption), parser.value(addressOption), parser.value(outputOption));
+    return takePictures(parser.value(serviceOption), parser.value(addressOption), parser.value(outputOption),
+                        parser.isSet(dialogsOption));
 }
