@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "admin/SmtpTestWindow.h"
 
+#include "monitor/widgets/Picture.h"
 #include "ui_SmtpTestWindow.h"
 
 namespace {
@@ -30,9 +31,9 @@ QPixmap statusPicture(SmtpTestWindow::VLSmtpStatus status)
 {
     switch (status) {
     case SmtpTestWindow::SmtpStatusFailed:
-        return QPixmap(QStringLiteral(":/images/images/status_err_48.png"));
+        return Velmora::picture(QStringLiteral(":/images/images/status_err_48.png"));
     case SmtpTestWindow::SmtpStatusOk:
-        return QPixmap(QStringLiteral(":/images/images/status_ok_48.png"));
+        return Velmora::picture(QStringLiteral(":/images/images/status_ok_48.png"));
     case SmtpTestWindow::SmtpStatusRunning:
         break;
     }
@@ -44,7 +45,7 @@ QPixmap statusPicture(SmtpTestWindow::VLSmtpStatus status)
 SmtpTestWindow::SmtpTestWindow(QWidget* parent)
     : QDialog(parent)
     , ui(std::make_unique<Ui::SmtpTestWindow>())
-    , m_spinner(QStringLiteral(":/images/images/spinner_2_48.gif"))
+    , m_spinner(Velmora::animationFile(QStringLiteral(":/images/images/spinner_2_48.gif")))
 {
     ui->setupUi(this);
     connect(ui->buttonBox, &QDialogButtonBox::accepted, this, &SmtpTestWindow::accept);

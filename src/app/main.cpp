@@ -3,6 +3,7 @@
 #include "app/ControlPanelConfiguration.h"
 #include "app/Startup.h"
 #include "monitor/VelmoraWindow.h"
+#include "monitor/widgets/Picture.h"
 
 #include <QApplication>
 #include <QSplashScreen>
@@ -17,7 +18,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     Velmora::Startup::setPanelFont();
 
-    QSplashScreen splash(QPixmap(QStringLiteral(":/images/images/splashscreen.png")));
+    QSplashScreen splash(Velmora::picture(QStringLiteral(":/images/images/splashscreen.png")));
     splash.show();
     // Lets the splash paint itself; nothing else is posted yet.
     QCoreApplication::processEvents();

@@ -5,6 +5,7 @@
 #include "devices/core/ModelRules.h"
 #include "monitor/core/DeviceCaptions.h"
 #include "monitor/core/DeviceMessages.h"
+#include "monitor/widgets/Picture.h"
 #include "ui_VelmoraWindow.h"
 
 using Velmora::BarView;
@@ -62,7 +63,7 @@ void DeviceStatePanel::setModelImage(const QString& modelName)
     if (path == m_modelImagePath)
         return;
     m_modelImagePath = path;
-    m_form->upsModel->setPixmap(QPixmap(path));
+    m_form->upsModel->setPixmap(Velmora::picture(path));
 }
 
 void DeviceStatePanel::showModel(const QString& modelName)

@@ -13,6 +13,7 @@ namespace {
 constexpr int columns = 3;
 constexpr int cellWidth = 220;
 constexpr int cellHeight = 25;
+constexpr int captionGap = 6; ///< a caption may be wider than its value
 
 } // namespace
 
@@ -25,8 +26,10 @@ ExtendInformationWindow::ExtendInformationWindow(bool isGenset, QWidget* parent)
     auto* content = new QWidget;
     m_grid = new QGridLayout(content);
     m_grid->setSpacing(0);
-    for (int column = 0; column < columns; ++column)
+    for (int column = 0; column < columns; ++column) {
         m_grid->setColumnMinimumWidth(column, cellWidth);
+        m_grid->setColumnStretch(column, 1);
+    }
     auto* scrollArea = new QScrollArea(ui->informationsGroupBox);
     scrollArea->setFrameShape(QFrame::NoFrame);
     scrollArea->setWidgetResizable(true);
@@ -67,6 +70,7 @@ ExtendInformationWindow::Cell ExtendInformationWindow::cellAt(int index)
     auto* caption = new QLabel;
     caption->setTextFormat(Qt::PlainText);
     caption->setFixedHeight(cellHeight);
+    caption->setContentsMargins(0, 0, captionGap, 0);
     auto* value = new QLineEdit;
     value->setReadOnly(true);
     value->setAlignment(Qt::AlignCenter);

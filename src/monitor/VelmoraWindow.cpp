@@ -11,6 +11,7 @@
 #include "monitor/UpsTreeWidget.h"
 #include "monitor/core/PanelIdentity.h"
 #include "monitor/widgets/DebugWarningWidget.h"
+#include "monitor/widgets/Picture.h"
 #include "monitor/widgets/VLStatusWidget.h"
 #include "ui_VelmoraWindow.h"
 
@@ -74,7 +75,7 @@ VelmoraWindow::VelmoraWindow(const Velmora::UpdateEnvironment& updates, QWidget*
     countdownTimer->setObjectName(QStringLiteral("countdownTimer"));
     countdownTimer->setInterval(countdownInterval);
     connect(countdownTimer, &QTimer::timeout, this, &VelmoraWindow::clockUpdate);
-    busyMovie = std::make_unique<QMovie>(QStringLiteral(":/images/images/45.gif"));
+    busyMovie = std::make_unique<QMovie>(Velmora::animationFile(QStringLiteral(":/images/images/45.gif")));
     ui->busyLabel->setMovie(busyMovie.get());
     ui->busyLabel->hide();
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "policy/SysCommandWindow.h"
 
+#include "monitor/widgets/Picture.h"
 #include "monitor/widgets/Prompts.h"
 
 #include <QCheckBox>
@@ -50,7 +51,7 @@ SysCommandWindow::SysCommandWindow(QWidget* parent)
 
     auto* logo = new QLabel;
     logo->setObjectName(QStringLiteral("ondaraLabel"));
-    logo->setPixmap(QPixmap(QStringLiteral(":/images/images/ondara_logo_s.png")));
+    logo->setPixmap(Velmora::picture(QStringLiteral(":/images/images/ondara_logo_s.png")));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     connect(buttons, &QDialogButtonBox::accepted, this, &SysCommandWindow::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &SysCommandWindow::reject);

@@ -32,7 +32,7 @@ constexpr Room rooms[] = {
      "app/ControlPanelConfiguration.h"},
     {"app/ControlPanelConfiguration", ""},
     {"app/PanelLanguage", ""},
-    {"app/", "monitor/ app/"},
+    {"app/", "monitor/ monitor/widgets/ app/"},
 };
 
 struct Source

@@ -128,7 +128,7 @@ def _help(size):
 
 
 def status():
-    """Icons of the status strip, the debug warning, the help buttons and the mail test."""
+    """Icons of the status strip, the debug warning, the help buttons, the mail test and questions."""
     return {
         "ok": _sign(21, _running, 0.9),
         "4e2": _sign(21, _lost, 0.9),
@@ -139,6 +139,7 @@ def status():
         "warning": _sign(28, lambda g, edge: _attention(g, edge, YELLOW), 0.7),
         "status_ok_48": _sign(48, _running, 0.6),
         "status_err_48": _sign(48, _lost, 0.6),
+        "question_48": _help(48),
     }
 
 

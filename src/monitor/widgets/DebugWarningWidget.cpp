@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "monitor/widgets/DebugWarningWidget.h"
 
+#include "monitor/widgets/Picture.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 
@@ -24,7 +26,7 @@ DebugWarningWidget::DebugWarningWidget(QWidget* parent)
     , m_icon(new QLabel(this))
     , m_text(new QLabel(tr("TRYB DEBUGGOWANIA"), this))
 {
-    m_icon->setPixmap(QPixmap(QStringLiteral(":/images/images/warning.png")));
+    m_icon->setPixmap(Velmora::picture(QStringLiteral(":/images/images/warning.png")));
     m_text->setStyleSheet(QStringLiteral("color: red; font: bold 20px;"));
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

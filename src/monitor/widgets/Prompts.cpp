@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "monitor/widgets/Prompts.h"
 
+#include "monitor/widgets/Picture.h"
+
 #include <QCheckBox>
 #include <QFileDialog>
 #include <QInputDialog>
@@ -20,6 +22,8 @@ public:
         // On the heap: the parent may be deleted, and the box with it, while the question stands.
         QPointer<QMessageBox> box(
             new QMessageBox(question.icon, question.title, QString(), question.buttons, parent));
+        if (question.icon == QMessageBox::Question)
+            box->setIconPixmap(picture(QStringLiteral(":/images/images/question_48.png")));
         box->setTextFormat(Qt::PlainText);
         box->setText(question.text);
         // The text format does not reach the informative text.

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "monitor/widgets/VLStatusWidget.h"
 
+#include "monitor/widgets/Picture.h"
+
 #include <QGridLayout>
 #include <QLabel>
 
@@ -26,12 +28,12 @@ void setLabel(QLabel* label, const QString& text, const QString& style)
 
 VLStatusWidget::VLStatusWidget(QWidget* parent)
     : QWidget(parent)
-    , m_okPixmap(QStringLiteral(":/images/images/ok.png"))
-    , m_errorPixmap(QStringLiteral(":/images/images/4e2.png"))
-    , m_warningPixmap(QStringLiteral(":/images/images/srv_wrn.png"))
-    , m_unknownPixmap(QStringLiteral(":/images/images/unknown.png"))
-    , m_serviceSpinner(QStringLiteral(":/images/images/loading_spinner.gif"))
-    , m_deviceSpinner(QStringLiteral(":/images/images/loading_spinner.gif"))
+    , m_okPixmap(Velmora::picture(QStringLiteral(":/images/images/ok.png")))
+    , m_errorPixmap(Velmora::picture(QStringLiteral(":/images/images/4e2.png")))
+    , m_warningPixmap(Velmora::picture(QStringLiteral(":/images/images/srv_wrn.png")))
+    , m_unknownPixmap(Velmora::picture(QStringLiteral(":/images/images/unknown.png")))
+    , m_serviceSpinner(Velmora::animationFile(QStringLiteral(":/images/images/loading_spinner.gif")))
+    , m_deviceSpinner(Velmora::animationFile(QStringLiteral(":/images/images/loading_spinner.gif")))
     , m_serviceIcon(makeLabel("serviceIcon"))
     , m_serviceTitle(makeLabel("serviceTitle"))
     , m_serviceAddressLabel(makeLabel("serviceAddress"))
@@ -43,7 +45,7 @@ VLStatusWidget::VLStatusWidget(QWidget* parent)
 {
     for (QLabel* icon : {m_serviceIcon, m_deviceIcon, m_clockIcon})
         icon->setFixedSize(iconSize, iconSize);
-    m_clockIcon->setPixmap(QPixmap(QStringLiteral(":/images/images/time.png")));
+    m_clockIcon->setPixmap(Velmora::picture(QStringLiteral(":/images/images/time.png")));
     m_clockIcon->hide();
     m_countdownText->hide();
     buildLayout();
