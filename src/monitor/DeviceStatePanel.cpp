@@ -40,7 +40,23 @@ void showBar(ProgressBarWidget* bar, const BarView& view)
 
 DeviceStatePanel::DeviceStatePanel(Ui::VelmoraWindow* form)
     : m_form(form)
-{}
+{
+    nameValues();
+}
+
+// A value stands inside the field that its caption belongs to, where a screen reader finds no caption.
+void DeviceStatePanel::nameValues()
+{
+    const QList<QLabel*> captions = m_form->upsBox->findChildren<QLabel*>();
+    for (const QLabel* caption : captions) {
+        const QList<QWidget*> parts =
+            caption->buddy() ? caption->buddy()->findChildren<QWidget*>() : QList<QWidget*>();
+        for (QWidget* part : parts) {
+            if (!qobject_cast<QAbstractButton*>(part))
+                part->setAccessibleName(caption->text());
+        }
+    }
+}
 
 void DeviceStatePanel::hideOptionalFields()
 {
@@ -86,6 +102,7 @@ void DeviceStatePanel::showModel(const QString& modelName)
     m_form->autonomyTimeLabel->setText(captions.autonomyTime);
     m_form->temperatureLabel->setText(captions.temperature);
     m_form->upsConfigurationButton->setText(captions.configurationButton);
+    nameValues();
 
     const Velmora::MissingValueReasons reasons = Velmora::missingValueReasons(modelName);
     m_form->temperatureEdit->defaultTooltip(reasons.temperature);

@@ -34,6 +34,7 @@ public:
     void hideMessages();
 
 private:
+    void nameValues();
     void showFields(const Velmora::DeviceStateView& view);
     void showNameAndLocation(const Velmora::DeviceStateView& view);
     void showMessages(const std::optional<QStringList>& codes);

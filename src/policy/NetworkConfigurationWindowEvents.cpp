@@ -80,6 +80,7 @@ void NetworkConfigurationWindow::prepareEventsTree()
         header->setIcon(column, QIcon(QLatin1String(":/headers/images/headers/") +
                                       QLatin1String(picture.name) + QLatin1String(".png")));
         header->setToolTip(column, picture.tip);
+        header->setData(column, Qt::AccessibleTextRole, picture.tip);
         ui->eventsTree->setColumnWidth(column, sockets ? narrowColumn : wideColumn);
     }
 }
