@@ -14,13 +14,12 @@ namespace {
 // Services evaluate the keys letter by letter: MD5 of all resources' stems and keys, a blank between each.
 constexpr const char keysSum[] = "9a6dbe415b2d38f6fb5012a87d4cb9ec";
 
-EventDefinitions definitions(const QString& stem, const char* language, bool parallel = true,
-                             bool compensation = true)
+EventDefinitions definitions(const QString& stem, bool parallel = true, bool compensation = true)
 {
     Utils::Ups device;
     device.parallel_unit = parallel;
     device.power_compensation = compensation;
-    return readEventDefinitions(eventDefinitionsPath(stem), device, QString::fromLatin1(language));
+    return readEventDefinitions(eventDefinitionsPath(stem), device, QStringLiteral("polish"));
 }
 
 } // namespace
@@ -41,7 +40,7 @@ void EventDefinitionsTest::resourcesHoldTheVocabulary()
     QStringList stemsAndKeys;
     const QStringList stems = eventDefinitionStems();
     for (const QString& stem : stems) {
-        const EventDefinitions read = definitions(stem, "polish");
+        const EventDefinitions read = definitions(stem);
         stemsAndKeys += stem;
         stemsAndKeys += read.eventKeys;
         // A label that two keys share could not be told apart.
@@ -55,16 +54,16 @@ void EventDefinitionsTest::resourcesHoldTheVocabulary()
 
 void EventDefinitionsTest::capabilitiesDecideWhatIsOffered()
 {
-    const EventDefinitions bare = definitions(QStringLiteral("Tarvex33_USB"), "polish", false, false);
+    const EventDefinitions bare = definitions(QStringLiteral("Tarvex33_USB"), false, false);
     QCOMPARE(bare.eventKeys.size(), 107 - 9);
     QCOMPARE(bare.eventLabels.size(), 107);
     QVERIFY(!bare.isEventState(QStringLiteral("message2LcdError")));
     QVERIFY(bare.isParam(QStringLiteral("paramInputFreq")));
     QVERIFY(!bare.isEventState(QStringLiteral("paramInputFreq")));
-    const EventDefinitions parallel = definitions(QStringLiteral("Tarvex33_USB"), "polish", true, false);
+    const EventDefinitions parallel = definitions(QStringLiteral("Tarvex33_USB"), true, false);
     QVERIFY(!parallel.isEventState(QStringLiteral("message2PowerCompensation")));
     QCOMPARE(parallel.eventKeys.size(), 106);
-    QCOMPARE(definitions(QStringLiteral("Virtual_Device"), "polish", false, false).eventKeys.size(), 24);
+    QCOMPARE(definitions(QStringLiteral("Virtual_Device"), false, false).eventKeys.size(), 24);
 }
 
 void EventDefinitionsTest::brokenFileKeepsWhatCameBefore()
@@ -79,7 +78,7 @@ void EventDefinitionsTest::brokenFileKeepsWhatCameBefore()
     QCOMPARE(read.failureText(), QLatin1String("Plik ") + file.fileName() + QStringLiteral(" zawiera błędy"));
     QVERIFY(read.isFound());
 
-    const EventDefinitions missing = definitions(QStringLiteral("../Quenta_USB"), "polish");
+    const EventDefinitions missing = definitions(QStringLiteral("../Quenta_USB"));
     QVERIFY(!missing.isFound());
     QVERIFY(missing.failureText().endsWith(QLatin1String(" :/data/data/../Quenta_USB.xml")));
 }

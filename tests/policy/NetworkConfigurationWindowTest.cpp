@@ -75,8 +75,8 @@ private:
     }
     void click(const char* button) const { find<QPushButton>(button)->click(); }
     void editFirstEvent() const;
-    /// Selects a group, or the member with this index in it.
-    void select(int group, int member = -1) const;
+    /// Selects a member of the second group.
+    void select(int member) const;
     void sendDigest(const QString& password) const
     {
         service->send("<netclient_password>" + makeMd5(password).toUtf8() + "</netclient_password>");
@@ -126,11 +126,10 @@ void NetworkConfigurationWindowTest::cleanup()
     Velmora::Prompts::replace(nullptr);
 }
 
-void NetworkConfigurationWindowTest::select(int group, int member) const
+void NetworkConfigurationWindowTest::select(int member) const
 {
     auto* tree = find<QTreeWidget>("networkElementsTree");
-    QTreeWidgetItem* row = tree->topLevelItem(group);
-    tree->setCurrentItem(member < 0 ? row : row->child(member));
+    tree->setCurrentItem(tree->topLevelItem(1)->child(member));
 }
 
 void NetworkConfigurationWindowTest::editFirstEvent() const
@@ -170,7 +169,7 @@ void NetworkConfigurationWindowTest::lockedDialogStaysLocked()
     click("addEventButton");
     window->setEnabledButtons(false);
     click("cancelEventButton");
-    select(1, 0);
+    select(0);
     find<QCheckBox>("systemCommandBox")->setChecked(true);
     for (const QPushButton* button : window->findChildren<QPushButton*>())
         QVERIFY2(!button->isEnabled() || button->text() == QLatin1String("Cancel"),
@@ -204,7 +203,7 @@ void NetworkConfigurationWindowTest::computerIsAddedByItsClientsPassword()
 
 void NetworkConfigurationWindowTest::changedPasswordAsksToBeSaved()
 {
-    select(1, 1);
+    select(1);
     const auto change = [this](PasswordChangeWindow& dialog) {
         emit link->passwordChanged(); // somebody else's
         typeInto(dialog, "newPasswordEdit", secret);
