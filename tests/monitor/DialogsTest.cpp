@@ -310,6 +310,7 @@ private slots:
     void initTestCase();
     void dialogsAreSound_data();
     void dialogsAreSound();
+    void everyControlLeadsToItsDialog_data();
     void everyControlLeadsToItsDialog();
     void dialogsTakeEveryMessage_data();
     void dialogsTakeEveryMessage();
@@ -379,8 +380,19 @@ void DialogsTest::dialogsAreSound()
     QCOMPARE(untranslated.join(QLatin1Char(';')), QString());
 }
 
+void DialogsTest::everyControlLeadsToItsDialog_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::newRow("in Polish") << QStringLiteral("polish");
+    QTest::newRow("in English") << QStringLiteral("english");
+}
+
 void DialogsTest::everyControlLeadsToItsDialog()
 {
+    QFETCH(QString, language);
+    QTranslator qtTexts;
+    QTranslator panelTexts;
+    Velmora::Startup::installTranslators(language, qtTexts, panelTexts);
     const QtMessageHandler usual = qInstallMessageHandler(keepWarnings);
     const auto restore = qScopeGuard([usual] { qInstallMessageHandler(usual); });
     warnings().clear();
