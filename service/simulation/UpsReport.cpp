@@ -13,7 +13,6 @@ namespace {
 constexpr double efficiency = 0.94;
 constexpr double inputPowerFactor = 0.99;
 constexpr double chargerShare = 0.04; ///< of nominal power
-constexpr double secondsPerHour = 3600.0;
 
 // Electrical values of one phase.
 struct Phase
