@@ -91,6 +91,10 @@ void RandomUser::actInMainWindow()
 void RandomUser::actIn(QMenu* menu)
 {
     const QList<QAction*> actions = menu->actions();
+    if (actions.isEmpty()) {
+        (void)closeTop();
+        return;
+    }
     menu->setActiveAction(actions.at(below(actions.size())));
     QCoreApplication::postEvent(menu, new QKeyEvent(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier));
     // An action that is disabled leaves the menu open.
@@ -150,9 +154,13 @@ void RandomUser::selectOne(const QWidget* dialog)
         const QModelIndex top = model->index(below(model->rowCount() + 1), 0);
         const int children = model->rowCount(top);
         view->setCurrentIndex(children > 0 && below(2) == 0 ? model->index(below(children), 0, top) : top);
+        const auto doubleClick = [view] {
+            // Mice hit no rows that are gone.
+            if (view->currentIndex().isValid())
+                emit view->doubleClicked(view->currentIndex());
+        };
         if (below(2) == 0)
-            QMetaObject::invokeMethod(
-                view, [view] { emit view->doubleClicked(view->currentIndex()); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(view, doubleClick, Qt::QueuedConnection);
     }
 }
 
