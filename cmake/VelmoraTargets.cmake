@@ -87,5 +87,6 @@ function(velmora_fuzz name)
     endif()
     target_sources(${name} PRIVATE ReplayMain.cpp)
     add_test(NAME ${name} COMMAND ${name} ${corpus})
-    set_tests_properties(${name} PROPERTIES TIMEOUT 60 ENVIRONMENT "LC_ALL=C.UTF-8;UBSAN_OPTIONS=print_stacktrace=1")
+    set_tests_properties(${name} PROPERTIES TIMEOUT 60
+        ENVIRONMENT "LC_ALL=C.UTF-8;LSAN_OPTIONS=suppressions=${VELMORA_ROOT}/tests/lsan.supp;UBSAN_OPTIONS=print_stacktrace=1")
 endfunction()

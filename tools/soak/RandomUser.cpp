@@ -10,18 +10,21 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMessageBox>
 #include <QRegularExpression>
 
 namespace {
 
 constexpr char seenProperty[] = "seenByTheSoak";
 
-// One thing in so many done in a dialog is to close it.
-constexpr int patience = 40;
+// One thing in so many done in a dialog is to close it, and so is one of so many clicks on its OK and Cancel.
+constexpr int patience = 60;
+constexpr int hesitation = 10;
 
 template <typename Widget>
 QList<Widget*> usable(const QWidget* parent)
@@ -134,9 +137,12 @@ void RandomUser::actIn(QDialog* dialog)
 void RandomUser::clickOne(const QWidget* dialog)
 {
     const QList<QAbstractButton*> buttons = usable<QAbstractButton>(dialog);
-    if (!buttons.isEmpty())
-        QMetaObject::invokeMethod(buttons.at(below(buttons.size())), &QAbstractButton::click,
-                                  Qt::QueuedConnection);
+    if (buttons.isEmpty())
+        return;
+    QAbstractButton* button = buttons.at(below(buttons.size()));
+    const bool leaves = button->parent() == dialog->findChild<QDialogButtonBox*>();
+    if (!leaves || qobject_cast<const QMessageBox*>(dialog) || below(hesitation) == 0)
+        QMetaObject::invokeMethod(button, &QAbstractButton::click, Qt::QueuedConnection);
 }
 
 void RandomUser::selectOne(const QWidget* dialog)
@@ -166,8 +172,8 @@ void RandomUser::selectOne(const QWidget* dialog)
 
 void RandomUser::typeOne(const QWidget* dialog)
 {
-    static const QStringList texts{QString(), QStringLiteral("1"), QStringLiteral("127.0.0.1"),
-                                   QStringLiteral("a@b.example"), QStringLiteral("ŁADOWANIE  ON (")};
+    static const QStringList texts{QString(), QStringLiteral("60"), QStringLiteral("127.0.0.1"),
+                                   QStringLiteral("a@b.test"), QStringLiteral("ŁADOWANIE  ON (")};
     const QList<QLineEdit*> fields = usable<QLineEdit>(dialog);
     if (!fields.isEmpty())
         fields.at(below(fields.size()))->setText(texts.at(below(texts.size())));

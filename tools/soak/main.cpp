@@ -29,7 +29,7 @@
 
 namespace {
 
-constexpr int actInterval = 15;
+constexpr int actInterval = 8;
 constexpr int lookInterval = 1000;
 constexpr int restartInterval = 120000;
 constexpr int closingTime = 20000;
