@@ -15,7 +15,7 @@
 #include <algorithm>
 #include <array>
 
-using Velmora::EventEntryFault;
+using Velmora::ConditionEntryFault;
 using Velmora::Utils::displayMsgBox;
 
 namespace {
@@ -187,20 +187,21 @@ bool AdvancedOptionsWindow::reportEntry() const
     const bool valid = ui->expressionTextIn->property(validProperty).toBool() &&
                        ui->expressionTextOut->property(validProperty).toBool();
     QString text;
-    switch (Velmora::findEventEntryFault({ui->eventNameTextEdit->text(), ui->expressionTextIn->toPlainText(),
+    switch (
+        Velmora::findConditionEntryFault({ui->eventNameTextEdit->text(), ui->expressionTextIn->toPlainText(),
                                           ui->expressionTextOut->toPlainText(), valid})) {
-    case EventEntryFault::None:
+    case ConditionEntryFault::None:
         return true;
-    case EventEntryFault::EmptyName:
+    case ConditionEntryFault::EmptyName:
         text = tr("Pole \"Nazwa zdarzenia\" nie może być puste");
         break;
-    case EventEntryFault::ForbiddenCharacters:
+    case ConditionEntryFault::ForbiddenCharacters:
         text = tr("Nazwa zdarzenia zawiera niedozwolone znaki");
         break;
-    case EventEntryFault::EmptyCondition:
+    case ConditionEntryFault::EmptyCondition:
         text = tr("Należy wprowadzić wyrażenie.");
         break;
-    case EventEntryFault::InvalidCondition:
+    case ConditionEntryFault::InvalidCondition:
         text = tr("Wprowadzone wyrażenie jest nieprawidłowe.");
         break;
     }

@@ -135,17 +135,17 @@ QStringList conditionOperators(const QString& configName)
     return operators << QStringLiteral("||") << QStringLiteral("&&") << QStringLiteral("( )");
 }
 
-EventEntryFault findEventEntryFault(const EventEntry& entry)
+ConditionEntryFault findConditionEntryFault(const ConditionEntry& entry)
 {
     static const QString forbidden = QStringLiteral("&\"'<>");
     if (entry.name.isEmpty())
-        return EventEntryFault::EmptyName;
+        return ConditionEntryFault::EmptyName;
     if (std::any_of(forbidden.begin(), forbidden.end(),
                     [&entry](QChar character) { return entry.name.contains(character); }))
-        return EventEntryFault::ForbiddenCharacters;
+        return ConditionEntryFault::ForbiddenCharacters;
     if (entry.conditionIn.isEmpty() || entry.conditionOut.isEmpty())
-        return EventEntryFault::EmptyCondition;
-    return entry.conditionsValid ? EventEntryFault::None : EventEntryFault::InvalidCondition;
+        return ConditionEntryFault::EmptyCondition;
+    return entry.conditionsValid ? ConditionEntryFault::None : ConditionEntryFault::InvalidCondition;
 }
 
 } // namespace Velmora

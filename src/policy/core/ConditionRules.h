@@ -29,7 +29,7 @@ enum class ConditionFault {
 [[nodiscard]] QStringList conditionOperators(const QString& configName);
 
 /// A name and two conditions as a user has left them.
-struct EventEntry
+struct ConditionEntry
 {
     QString name;
     QString conditionIn;
@@ -38,8 +38,8 @@ struct EventEntry
 };
 
 /// The first thing that keeps an entry from being saved.
-enum class EventEntryFault { None, EmptyName, ForbiddenCharacters, EmptyCondition, InvalidCondition };
+enum class ConditionEntryFault { None, EmptyName, ForbiddenCharacters, EmptyCondition, InvalidCondition };
 
-[[nodiscard]] EventEntryFault findEventEntryFault(const EventEntry& entry);
+[[nodiscard]] ConditionEntryFault findConditionEntryFault(const ConditionEntry& entry);
 
 } // namespace Velmora
