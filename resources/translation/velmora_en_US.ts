@@ -212,6 +212,34 @@
         <source>Konfiguracja zawiera już zdarzenie </source>
         <translation>The configuration already contains the event </translation>
     </message>
+    <message>
+        <source>✗ Brak warunku</source>
+        <translation>✗ No condition</translation>
+    </message>
+    <message>
+        <source>✗ Nawiasy lub operatory nie pasują do siebie</source>
+        <translation>✗ Parentheses or operators do not match</translation>
+    </message>
+    <message>
+        <source>✗ Niedozwolony znak, liczba ujemna lub nowy wiersz</source>
+        <translation>✗ Forbidden character, negative number or new line</translation>
+    </message>
+    <message>
+        <source>✗ Stan można porównać tylko operatorem ==</source>
+        <translation>✗ A state can only be compared by ==</translation>
+    </message>
+    <message>
+        <source>✗ Nieznana nazwa lub wartość</source>
+        <translation>✗ Unknown name or value</translation>
+    </message>
+    <message>
+        <source>✗ Stan porównuje się z ON lub OFF, a parametr z liczbą</source>
+        <translation>✗ Compare a state with ON or OFF, a parameter with a number</translation>
+    </message>
+    <message>
+        <source>✓ Warunek jest prawidłowy</source>
+        <translation>✓ The condition is valid</translation>
+    </message>
 </context>
 <context>
     <name>ApplicationConfigurationWindow</name>
@@ -326,6 +354,18 @@
     <message>
         <source>Wirtualny UPS</source>
         <translation>Virtual UPS</translation>
+    </message>
+    <message>
+        <source>Adres serwera</source>
+        <translation>Address of the server</translation>
+    </message>
+    <message>
+        <source>Liczba od %1 do %2</source>
+        <translation>Number from %1 to %2</translation>
+    </message>
+    <message>
+        <source>Adres e-mail, np. ups@example.com</source>
+        <translation>E-mail address, e.g. ups@example.com</translation>
     </message>
 </context>
 <context>

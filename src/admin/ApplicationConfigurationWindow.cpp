@@ -12,8 +12,11 @@
 #include "monitor/widgets/Prompts.h"
 #include "ui_ApplicationConfigurationWindow.h"
 
+#include <QAction>
 #include <QIntValidator>
+#include <QLineEdit>
 #include <QRegExpValidator>
+#include <QStyle>
 
 using Velmora::SmtpFormField;
 using Velmora::Utils::SmtpConfig;
@@ -40,9 +43,20 @@ SmtpFormField field(const QLineEdit* edit)
     return {edit->text(), edit->hasAcceptableInput()};
 }
 
-void mark(QWidget* control, bool wrong)
+/// A wrong field is red and, for whom colour does not reach, carries a sign that says what is wanted there.
+void mark(QLineEdit* edit, bool wrong, const QString& wanted)
 {
-    control->setStyleSheet(wrong ? QStringLiteral("background-color: red;") : QString());
+    edit->setStyleSheet(wrong ? QStringLiteral("background-color: red;") : QString());
+    edit->setToolTip(wrong ? wanted : QString());
+    edit->setAccessibleDescription(edit->toolTip());
+    const QString signName = QStringLiteral("wrongEntry");
+    delete edit->findChild<QAction*>(signName);
+    if (!wrong)
+        return;
+    QAction* sign = edit->addAction(edit->style()->standardIcon(QStyle::SP_MessageBoxWarning),
+                                    QLineEdit::TrailingPosition);
+    sign->setObjectName(signName);
+    sign->setText(wanted);
 }
 
 } // namespace
@@ -156,10 +170,11 @@ bool ApplicationConfigurationWindow::checkSmtpForm(bool allowEmpty)
         Velmora::checkSmtpForm({ui->smtpServerEdit->text(), field(ui->smtpPortEdit),
                                 field(ui->smtpSenderAddressEdit), field(ui->smtpTimeoutEdit)},
                                allowEmpty);
-    mark(ui->smtpServerEdit, faults.server);
-    mark(ui->smtpPortEdit, faults.port);
-    mark(ui->smtpSenderAddressEdit, faults.senderAddress);
-    mark(ui->smtpTimeoutEdit, faults.timeout);
+    mark(ui->smtpServerEdit, faults.server, tr("Adres serwera"));
+    mark(ui->smtpPortEdit, faults.port, tr("Liczba od %1 do %2").arg(0).arg(highestPort));
+    mark(ui->smtpSenderAddressEdit, faults.senderAddress, tr("Adres e-mail, np. ups@example.com"));
+    mark(ui->smtpTimeoutEdit, faults.timeout,
+         tr("Liczba od %1 do %2").arg(shortestTimeout).arg(longestTimeout));
     return !faults.any();
 }
 

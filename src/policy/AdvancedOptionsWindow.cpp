@@ -5,7 +5,6 @@
 #include "app/ControlPanelConfiguration.h"
 #include "monitor/widgets/MessageBox.h"
 #include "monitor/widgets/Prompts.h"
-#include "policy/core/ConditionRules.h"
 #include "policy/core/Expressions.h"
 #include "ui_AdvancedOptionsWindow.h"
 
@@ -16,6 +15,7 @@
 #include <array>
 
 using Velmora::ConditionEntryFault;
+using Velmora::ConditionFault;
 using Velmora::Utils::displayMsgBox;
 
 namespace {
@@ -143,13 +143,37 @@ void AdvancedOptionsWindow::expressionChanged()
 
 void AdvancedOptionsWindow::showValidity(QTextEdit* edit)
 {
-    const bool valid =
-        Velmora::findConditionFault(edit->toPlainText(), m_definitions) == Velmora::ConditionFault::None;
+    const QString text = edit->toPlainText();
+    const ConditionFault fault = Velmora::findConditionFault(text, m_definitions);
+    const bool valid = fault == ConditionFault::None;
+    const QString verdict = text.isEmpty() ? tr("✗ Brak warunku") : validityText(fault);
+    (edit == ui->expressionTextIn ? ui->validityLabelIn : ui->validityLabelOut)->setText(verdict);
+    edit->setAccessibleDescription(verdict);
+
     const QVariant shown = edit->property(validProperty);
     if (shown.isValid() && shown.toBool() == valid)
         return;
     edit->setProperty(validProperty, valid);
     edit->setStyleSheet(valid ? QStringLiteral("color: green") : QStringLiteral("color: red"));
+}
+
+QString AdvancedOptionsWindow::validityText(ConditionFault fault)
+{
+    switch (fault) {
+    case ConditionFault::None:
+        break;
+    case ConditionFault::Syntax:
+        return tr("✗ Nawiasy lub operatory nie pasują do siebie");
+    case ConditionFault::ForbiddenText:
+        return tr("✗ Niedozwolony znak, liczba ujemna lub nowy wiersz");
+    case ConditionFault::StateOperator:
+        return tr("✗ Stan można porównać tylko operatorem ==");
+    case ConditionFault::UnknownOperand:
+        return tr("✗ Nieznana nazwa lub wartość");
+    case ConditionFault::Comparison:
+        return tr("✗ Stan porównuje się z ON lub OFF, a parametr z liczbą");
+    }
+    return tr("✓ Warunek jest prawidłowy");
 }
 
 void AdvancedOptionsWindow::listItemDoubleClicked(QListWidgetItem* item)

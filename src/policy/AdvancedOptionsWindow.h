@@ -4,6 +4,7 @@
 
 #include "link/DeviceRecords.h"
 #include "link/PolicyRecords.h"
+#include "policy/core/ConditionRules.h"
 #include "policy/core/EventDefinitions.h"
 
 #include <QDialog>
@@ -57,7 +58,9 @@ private:
     void wire();
     void tellFailure();
     void prefill();
+    /// Colours a condition and says in words what is wrong with it: colour alone does not reach everybody.
     void showValidity(QTextEdit* edit);
+    [[nodiscard]] static QString validityText(Velmora::ConditionFault fault);
     void filter(QListWidget* list, const QString& pattern);
     /// True if nothing stands in the way of saving; otherwise says what does.
     [[nodiscard]] bool reportEntry() const;

@@ -16,8 +16,8 @@ namespace {
 
 const QStringList stored{QStringLiteral("Zdarzenie 1"), QStringLiteral("stateNormal,ON,==,"),
                          QStringLiteral("stateNormal,OFF,==,")};
-const QString bothGreen = QStringLiteral("true color: green true color: green");
-const QString bothRed = QStringLiteral("false color: red false color: red");
+const QString bothGreen = QStringLiteral("true color: green ✓ true color: green ✓");
+const QString bothRed = QStringLiteral("false color: red ✗ false color: red ✗");
 
 Velmora::Utils::Ups device(const QString& configName)
 {
@@ -41,13 +41,14 @@ void doubleClick(const QDialog& dialog, const char* name, int row)
     QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place);
 }
 
-/// What both conditions are held for, with the colours that say so.
+/// What both conditions are held for, with the colours and the signs that say so.
 QString shownAs(const QDialog& dialog)
 {
     QStringList shown;
     for (const char* name : {"expressionTextIn", "expressionTextOut"}) {
         const auto* edit = find<QTextEdit>(dialog, name);
-        shown << edit->property("valid").toString() << edit->styleSheet();
+        shown << edit->property("valid").toString() << edit->styleSheet()
+              << edit->accessibleDescription().left(1);
     }
     return shown.join(QLatin1Char(' '));
 }

@@ -74,7 +74,8 @@ constexpr Station administratorStations[] = {
      "addEventButton showMessageBox messageEdit=Mains_failure systemCommandBox"},
     {"conditions", "the conditions of an event", "CormelRT_XL",
      "networkConfigurationButton\naddEventButton advancedConfigurationButton",
-     "eventNameTextEdit=Mains_failure eventStatesListIn?"},
+     "eventNameTextEdit=Mains_failure expressionTextIn=stateBatteryBackup==ON "
+     "expressionTextOut=stateBatteryBackup eventStatesListIn?"},
     {"action-command", "the action: a command", "CormelRT_XL",
      "networkConfigurationButton\naddEventButton systemCommandBox systemCommandConfigurationButton", ""},
     {"action-mail", "the action: a mail", "CormelRT_XL",
@@ -97,6 +98,8 @@ constexpr Station administratorStations[] = {
 
     {"application-settings", "the service's own settings", nullptr, "aplicationConfigurationButton",
      "smtpTestButton?"},
+    {"mail-settings-wrong", "mail settings that are incomplete", nullptr, "aplicationConfigurationButton",
+     "smtpSenderAddressEdit=ups smtpTestButton"},
     {"mail-test", "a test mail that failed", nullptr,
      "aplicationConfigurationButton\nsmtpServerEdit=127.0.0.1 smtpSenderAddressEdit=ups@example.com "
      "smtpTestButton",

@@ -36,7 +36,8 @@ QTreeWidgetItem* lastRow(const QTreeWidget& tree)
     return row;
 }
 
-bool isReady(const QObject* object)
+/// Whether a user could act on it; a list or, unless it is about to be `filled`, a text has something in it.
+bool isReady(const QObject* object, bool filled)
 {
     const auto* widget = qobject_cast<const QWidget*>(object);
     const auto* action = qobject_cast<const QAction*>(object);
@@ -45,7 +46,7 @@ bool isReady(const QObject* object)
     if (!object || (widget && !(widget->isVisible() && widget->isEnabled())) ||
         (action && !action->isEnabled()))
         return false;
-    return !(view && view->model()->rowCount() == 0) && !(text && text->document()->isEmpty());
+    return !(view && view->model()->rowCount() == 0) && (filled || !(text && text->document()->isEmpty()));
 }
 
 } // namespace
@@ -141,7 +142,8 @@ QObject* PanelDriver::objectOf(const QString& step, const QWidget* window) const
 bool PanelDriver::await(const QString& step, const QWidget* window) const
 {
     constexpr int readyTime = 15000;
-    if (waitUntil([&] { return isReady(objectOf(step, window)); }, readyTime))
+    if (waitUntil([&] { return isReady(objectOf(step, window), step.contains(QLatin1Char('='))); },
+                  readyTime))
         return true;
     std::fprintf(stderr, "velmora-screenshots: %s does not become ready\n", qUtf8Printable(step));
     return false;
