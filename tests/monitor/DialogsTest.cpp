@@ -185,6 +185,8 @@ const QRegularExpression
                         "Professional|© .*|Qt \\S+|zlib|Boost|GNU LGPL .*|"
                         ".* License.*|header|group|stateNormal|Komputery dostępne w systemie Velmora)$"));
 
+const QRegularExpression polishLetter(QStringLiteral("[ąćęłńóśźżĄĆĘŁŃÓŚŹŻ]"));
+
 /// Marks whatever passes through a translation.
 class BracketTranslator final : public QTranslator
 {
@@ -228,10 +230,10 @@ QStringList itemTexts(const QWidget* widget)
 }
 
 /// What a user reads or has read out, in the order of the widgets, without what is not a word.
-QStringList visibleTexts(const QDialog& dialog)
+QStringList visibleTexts(const QWidget& window)
 {
-    QStringList texts{dialog.windowTitle()};
-    for (const QWidget* widget : dialog.findChildren<QWidget*>()) {
+    QStringList texts{window.windowTitle()};
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
         texts.append(itemTexts(widget));
         for (const char* property : {"toolTip", "accessibleName", "title", "placeholderText"})
             texts.append(widget->property(property).toString());
@@ -250,10 +252,10 @@ void use(QObject* control)
 }
 
 /// Everything that the Tab key reaches, in its order.
-QVector<QWidget*> tabOrder(const QDialog& dialog)
+QVector<QWidget*> tabOrder(const QWidget& window)
 {
     QVector<QWidget*> widgets;
-    for (QWidget* next = dialog.nextInFocusChain(); next != &dialog; next = next->nextInFocusChain()) {
+    for (QWidget* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain()) {
         const bool part = next->focusProxy() || next->objectName().startsWith(QLatin1String("qt_"));
         if ((next->focusPolicy() & Qt::TabFocus) && next->isVisible() && !part)
             widgets.append(next);
@@ -272,13 +274,13 @@ bool isReadAfter(const QRect& now, const QRect& before)
 }
 
 /// What a screen reader could not name, and steps of the Tab key against the order of reading.
-QStringList keyboardFaults(const QDialog& dialog)
+QStringList keyboardFaults(const QWidget& window)
 {
     QStringList nameless;
     QStringList stepsBack;
-    const QVector<QWidget*> widgets = tabOrder(dialog);
-    const auto placeOf = [&dialog](const QWidget* widget) {
-        return QRect(widget->mapTo(&dialog, QPoint()), widget->size());
+    const QVector<QWidget*> widgets = tabOrder(window);
+    const auto placeOf = [&window](const QWidget* widget) {
+        return QRect(widget->mapTo(&window, QPoint()), widget->size());
     };
     for (int i = 0; i < widgets.size(); ++i) {
         QWidget* widget = widgets.at(i);
@@ -291,7 +293,7 @@ QStringList keyboardFaults(const QDialog& dialog)
             stepsBack.append(QLatin1String("out of order: ") + label);
     }
     // Those that are left to the mouse are read out, too.
-    for (const QAbstractButton* button : dialog.findChildren<QAbstractButton*>()) {
+    for (const QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
         if (button->isVisible() && button->text().isEmpty() && button->accessibleName().isEmpty())
             nameless.append(QLatin1String("no name: ") + button->objectName());
     }
@@ -310,6 +312,7 @@ private slots:
     void initTestCase();
     void dialogsAreSound_data();
     void dialogsAreSound();
+    void mainWindowIsSound();
     void everyControlLeadsToItsDialog_data();
     void everyControlLeadsToItsDialog();
     void dialogsTakeEveryMessage_data();
@@ -362,7 +365,6 @@ void DialogsTest::dialogsAreSound()
     }
     QCOMPARE(warnings(), QStringList());
 
-    static const QRegularExpression polishLetter(QStringLiteral("[ąćęłńóśźżĄĆĘŁŃÓŚŹŻ]"));
     QVERIFY(texts[Polish].size() >= 2);
     QCOMPARE(texts[English].size(), texts[Polish].size());
     QCOMPARE(texts[Pseudo].size(), texts[Polish].size());
@@ -378,6 +380,22 @@ void DialogsTest::dialogsAreSound()
             untranslated.append(text);
     }
     QCOMPARE(untranslated.join(QLatin1Char(';')), QString());
+}
+
+void DialogsTest::mainWindowIsSound()
+{
+    for (const char* language : {"polish", "english"}) {
+        QTranslator qtTexts;
+        QTranslator panelTexts;
+        Velmora::Startup::installTranslators(QLatin1String(language), qtTexts, panelTexts);
+        WindowFixture panel;
+        QVERIFY(panel.open(deviceList({device(7, "Tarvex33_SNMP", "A"), device(8, "Borel_SNMP", "B")})));
+        panel.window->enableAdministratorButtons();
+        QVERIFY(panel.send(stateReport("<input_voltage>230</input_voltage><load>50</load>")));
+        QCOMPARE(keyboardFaults(*panel.window).join(QLatin1Char(';')), QString());
+        const QString texts = visibleTexts(*panel.window).join(QLatin1Char(';'));
+        QCOMPARE(texts.contains(polishLetter), *language == 'p');
+    }
 }
 
 void DialogsTest::everyControlLeadsToItsDialog_data()
