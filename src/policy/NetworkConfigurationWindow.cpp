@@ -98,8 +98,7 @@ void NetworkConfigurationWindow::setEventsFromConfig(const QVector<Event>& event
         const QString chosen = ui->workModeBox->currentText();
         prepareWorkModeBoxForOnlineUps();
         if (m_model.isEditing())
-            ui->workModeBox->setCurrentIndex(
-                ui->workModeBox->findText(chosen, Qt::MatchFixedString | Qt::MatchCaseSensitive));
+            ui->workModeBox->setCurrentIndex(ui->workModeBox->findText(chosen));
     }
     redrawUnlessEditing();
 }
@@ -163,8 +162,9 @@ void NetworkConfigurationWindow::setEnabledButtons(bool enabled)
 
 void NetworkConfigurationWindow::accept()
 {
-    // Without the service's answers there is nothing that could be sent back, and what was sent is gone.
-    if (!m_started || m_sent)
+    // Without the service's answers there is nothing that could be sent back, what was sent is gone, and from
+    // anybody but the administrator the service takes nothing.
+    if (!m_started || m_sent || m_locked)
         return;
     if (m_model.isEditing())
         cancelEventButtonClickHandler();
@@ -180,7 +180,7 @@ void NetworkConfigurationWindow::accept()
 
 void NetworkConfigurationWindow::reject()
 {
-    if (changedPasswordCount == 0) {
+    if (changedPasswordCount == 0 || m_locked) {
         QDialog::reject();
         return;
     }
