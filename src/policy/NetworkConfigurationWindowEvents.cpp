@@ -250,6 +250,11 @@ void NetworkConfigurationWindow::cancelEventButtonClickHandler()
     eventEditMode(false);
     stopNoResponseTimer();
     m_model.cancelEvent();
+    // Actions that were configured, and those that a refused save took away, stay as they are now.
+    const int row = ui->eventsTree->indexOfTopLevelItem(ui->eventsTree->currentItem());
+    fillSelectedEvents();
+    redrawEvents();
+    ui->eventsTree->setCurrentItem(ui->eventsTree->topLevelItem(row));
     if (m_model.isAdvanced())
         prepareWorkModeBoxForOnlineUps();
     setEnableSaveButton(true);
