@@ -90,7 +90,7 @@ void GroupConfigurationWindow::moveSelected(QTreeWidget* from, QTreeWidget* to,
 {
     const QList<QTreeWidgetItem*> rows = from->selectedItems();
     for (QTreeWidgetItem* row : rows) {
-        (this->*change)(row->data(Velmora::ComputerIdColumn, Qt::DisplayRole).toInt());
+        (this->*change)(Velmora::rowComputerId(*row));
         to->addTopLevelItem(from->takeTopLevelItem(from->indexOfTopLevelItem(row)));
     }
 }

@@ -65,6 +65,8 @@ public slots:
     void addDiscoveredComputer(const QString& ip);
     void passwordChanged();
     void noResponseTimeout();
+    /// The selected computer takes the name that stands in the computer dialog.
+    void editComputerAndCloseConfigurationWindow();
     /// Sends the policy. Nothing is answered.
     void accept() override;
     void reject() override;
@@ -128,7 +130,6 @@ private:
     // Clients of the computers, and their passwords.
     void addComputerButtonClickHandler();
     void closeComputerConfigurationWindow();
-    void editComputerAndCloseConfigurationWindow();
     void passwordChangeButtonClickHandler();
     void wirePasswordWindow(PasswordChangeWindow* window, bool local);
     void discoverButtonClickHandler();

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "policy/NetworkTreeColumns.h"
 
-#include <QHeaderView>
 #include <QTreeWidget>
 
 namespace Velmora {

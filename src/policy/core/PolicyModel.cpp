@@ -109,10 +109,10 @@ QVector<Event> PolicyModel::eventsOfGroup(int groupId) const
 
 int PolicyModel::getMaxEventNumber() const
 {
-    int number = 0;
-    for (int i = 0; i < allEvents.size(); ++i)
-        number = i == 0 ? allEvents.at(i).number : std::max(number, allEvents.at(i).number);
-    return number;
+    const auto highest =
+        std::max_element(allEvents.cbegin(), allEvents.cend(),
+                         [](const Event& left, const Event& right) { return left.number < right.number; });
+    return highest == allEvents.cend() ? 0 : highest->number;
 }
 
 int PolicyModel::nextEventNumber() const
