@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "policy/AdvancedOptionsWindow.h"
 
-#include "devices/core/ModelCatalogue.h"
-#include "devices/core/ModelRules.h"
 #include "support/ModalDriver.h"
 #include "support/ScriptedPrompts.h"
 
@@ -62,7 +60,6 @@ class AdvancedOptionsWindowTest final : public QObject
 private slots:
     void initTestCase() { Q_INIT_RESOURCE(velmora); }
     void conditionsAreClickedTogether();
-    void everyAdvancedModelOffersConditions();
     void entriesAreRefusedInOrder();
     void whatCannotBeReadIsShown();
 
@@ -99,24 +96,6 @@ void AdvancedOptionsWindowTest::conditionsAreClickedTogether()
                                QStringLiteral("stateNoCommunication,OFF,==,")};
     QCOMPARE(dialog.getExpressions(), expected);
     QCOMPARE(shownAs(AdvancedOptionsWindow(device(model), expected, &m_events, nullptr)), bothGreen);
-}
-
-void AdvancedOptionsWindowTest::everyAdvancedModelOffersConditions()
-{
-    int advanced = 0;
-    const QList<Velmora::Utils::Model> models = Velmora::Utils::getAllSuportedModelList();
-    for (const Velmora::Utils::Model& model : models) {
-        if (!Velmora::hasAdvancedEventOptions(model.configName))
-            continue;
-        ++advanced;
-        AdvancedOptionsWindow dialog(device(model.configName), {stored.at(0)}, &m_events, nullptr);
-        dialog.show();
-        for (const char* list : {"eventStatesListOut", "operatorListOut", "statesListOut"})
-            doubleClick(dialog, list, 0);
-        QVERIFY2(find<QTextEdit>(dialog, "expressionTextOut")->property("valid").toBool(),
-                 qPrintable(model.configName));
-    }
-    QCOMPARE(advanced, 43);
 }
 
 void AdvancedOptionsWindowTest::entriesAreRefusedInOrder()
