@@ -2,8 +2,8 @@
 # SPDX-License-Identifier: MIT
 """Labels of the event definitions, Polish and English, by key without its class prefix.
 
-LABELS holds what most families show, OVERRIDES what single families show instead. Misspelt keys are the service's
-own, and the misspelt labels that stand beside them are known to users: both stay.
+A table for each class holds what most families show, OVERRIDES what single families show instead. Misspelt keys are
+the service's own, and the misspelt labels that stand beside them are known to users: both stay.
 """
 
 STATES = {
