@@ -23,15 +23,6 @@ namespace {
 
 const QString secret = QStringLiteral("Hasło 1");
 
-Computer computer(int id, const char* name, const QString& address)
-{
-    Computer computer;
-    computer.id = id;
-    computer.name = QString::fromUtf8(name);
-    computer.address = address;
-    return computer;
-}
-
 // With what the editor does not show, too.
 Event everyAction()
 {
@@ -110,8 +101,8 @@ void NetworkConfigurationWindowTest::init()
             &NetworkConfigurationWindow::netclientPasswReceived);
     window->setGroupsFromConfig({{QStringLiteral("Default"), {0}, 0}, {QStringLiteral("Biuro"), {1, 0}, 1}});
     window->setEventsFromConfig({everyAction()});
-    window->setAllComputers(
-        {computer(0, "A", QStringLiteral("127.0.0.1")), computer(1, "B&B", QStringLiteral("192.0.2.1"))});
+    window->setAllComputers({{QStringLiteral("A"), QStringLiteral("127.0.0.1"), {}, {}, {}, {}, 0},
+                             {QStringLiteral("B&B"), QStringLiteral("192.0.2.1"), {}, {}, {}, {}, 1}});
     window->show();
     service->clearRequests();
 }
