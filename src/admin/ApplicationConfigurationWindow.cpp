@@ -207,10 +207,11 @@ void ApplicationConfigurationWindow::saveConfigurationToFile()
 void ApplicationConfigurationWindow::saveUpdateSwitch() const
 {
     const bool check = ui->checkUpdatesBox->isChecked();
-    ControlPanelConfiguration().setCheckForUpdates(check);
-    // The file may belong to the administrator of the computer: a fresh look tells whether it took the
-    // switch.
-    if (ControlPanelConfiguration().getCheckForUpdates() != check)
+    ControlPanelConfiguration configuration;
+    const bool isChange = configuration.getCheckForUpdates() != check;
+    configuration.setCheckForUpdates(check);
+    // The file may belong to the administrator of the computer.
+    if (!configuration.save() && isChange)
         Velmora::Utils::displayMsgBox(tr("Uwaga"),
                                       tr("Nie można zapisać w pliku ustawień panelu, czy ma on sprawdzać "
                                          "dostępność aktualizacji."));

@@ -36,15 +36,16 @@ void ConnectWithServiceWindow::accept()
         displayMsgBox(tr("Uwaga"), tr("Należy podać adres IP lub nazwę domenową komputera"));
         return;
     }
-    ControlPanelConfiguration().setServerAddress(address);
-    m_controller->setServerAddress(address);
-    m_controller->disconectFromHost();
-    m_controller->connectToServer();
-    // The file may belong to the administrator of the computer: a fresh look tells whether it took the
-    // address.
-    if (ControlPanelConfiguration().getServerAddress() != address) {
+    ControlPanelConfiguration configuration;
+    const bool isChange = configuration.getServerAddress() != address;
+    configuration.setServerAddress(address);
+    // The file may belong to the administrator of the computer.
+    if (!configuration.save() && isChange) {
         displayMsgBox(tr("Uwaga"), tr("Nie można zapisać adresu usługi w pliku ustawień.\n"
                                       "Zmiana obowiązuje do zakończenia programu."));
     }
+    m_controller->setServerAddress(address);
+    m_controller->disconectFromHost();
+    m_controller->connectToServer();
     QDialog::accept();
 }

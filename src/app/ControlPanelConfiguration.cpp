@@ -68,3 +68,10 @@ void ControlPanelConfiguration::setDontShowAddUpsPrompt(const bool& dontShow)
 {
     m_settings->setValue(dontShowAddUpsPromptKey, dontShow);
 }
+
+bool ControlPanelConfiguration::save()
+{
+    // Reading the file anew would tell nothing: Qt keeps what it could not write.
+    m_settings->sync();
+    return m_settings->status() == QSettings::NoError;
+}

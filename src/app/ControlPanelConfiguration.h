@@ -9,8 +9,8 @@
 class QSettings;
 
 /// The panel's own ini file: what it needs before it can reach the service. Made on the stack by whoever
-/// needs it and dropped at once; dropping it is what writes a change. A file that cannot be written loses the
-/// change silently.
+/// needs it and dropped at once; dropping it is what writes a change. A change that the file does not take
+/// is lost with the program at the latest, and only save() tells of it.
 class ControlPanelConfiguration final
 {
 public:
@@ -28,6 +28,9 @@ public:
     void setCheckForUpdates(bool check);
     [[nodiscard]] bool getDontShowAddUpsPrompt() const;
     void setDontShowAddUpsPrompt(const bool& dontShow);
+
+    /// Writes the changes now; false if the file does not take them.
+    [[nodiscard]] bool save();
 
 private:
     std::unique_ptr<QSettings> m_settings;

@@ -8,11 +8,13 @@
 #include "monitor/WindowFixture.h"
 #include "support/ModalDriver.h"
 
-#include <QDialogButtonBox>
-#include <QLineEdit>
+#include <QFile>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QToolButton>
 #include <QToolTip>
+
+#include <unistd.h>
 
 using namespace Velmora::Tests;
 using Velmora::UpsSocketController;
@@ -32,15 +34,10 @@ const QString otherRepeat = QStringLiteral("Błąd|Proszę sprawdzić nowe hasł
 const QString changed = QStringLiteral("Zmiana hasła|Hasło zostało zmienione");
 const QString noAnswer = QStringLiteral("Brak odpowiedzi|Usługa Velmora jest nieosiągalna");
 
-QStringList& debugOutput()
+QString& debugOutput()
 {
-    static QStringList lines;
+    static QString lines;
     return lines;
-}
-
-void keepDebugOutput(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& message)
-{
-    debugOutput().append(message);
 }
 
 QByteArray passwordReply(const QString& digest)
@@ -82,7 +79,7 @@ private slots:
     void initTestCase();
     void cleanupTestCase();
     void init();
-    void cleanup();
+    void cleanup() { panel.reset(); }
 
     void loginComparesTheDigest_data();
     void loginComparesTheDigest();
@@ -99,37 +96,26 @@ private:
     /// The digest that the next request carries; "?" if none arrives.
     [[nodiscard]] QString carriedDigest();
 
-    QtMessageHandler m_usualHandler = nullptr;
-    QByteArray m_ini;
     std::unique_ptr<WindowFixture> panel;
 };
 
 void AdminDialogsTest::initTestCase()
 {
-    m_usualHandler = qInstallMessageHandler(keepDebugOutput);
-    m_ini = qgetenv("VELMORA_CONTROL_PANEL_INI");
+    qInstallMessageHandler([](auto /*type*/, auto& /*context*/, auto& line) { debugOutput() += line; });
 }
 
 void AdminDialogsTest::cleanupTestCase()
 {
-    qInstallMessageHandler(m_usualHandler);
-    for (const QString& line : qAsConst(debugOutput())) {
-        for (const QString& text : {secret, newSecret, makeMd5(secret), makeMd5(newSecret)})
-            QVERIFY2(!line.contains(text), qPrintable(line));
-    }
+    qInstallMessageHandler(nullptr);
+    for (const QString& text : {secret, newSecret, makeMd5(secret), makeMd5(newSecret)})
+        QVERIFY2(!debugOutput().contains(text), qPrintable(debugOutput()));
 }
 
 void AdminDialogsTest::init()
 {
-    qputenv("VELMORA_CONTROL_PANEL_INI", m_ini);
     panel = std::make_unique<WindowFixture>();
     QVERIFY(panel->open(deviceList({device(1, "TarvexRT_USB", "A")})));
     panel->service.clearRequests();
-}
-
-void AdminDialogsTest::cleanup()
-{
-    panel.reset();
 }
 
 void AdminDialogsTest::wire(LogiInWindow& dialog)
@@ -162,23 +148,20 @@ QString AdminDialogsTest::carriedDigest()
 
 void AdminDialogsTest::loginComparesTheDigest_data()
 {
+    QTest::addColumn<QString>("digest"); // of the service, empty if it has none
     QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("digest");
     QTest::addColumn<bool>("loggedIn");
-    const auto row = [](const char* sentence, const QString& typed, const QString& digest, bool loggedIn) {
-        QTest::newRow(sentence) << typed << digest << loggedIn;
-    };
-    row("the right password logs in", secret, makeMd5(secret), true);
-    row("a wrong one does not", newSecret, makeMd5(secret), false);
-    row("an empty field is compared like any other", {}, makeMd5(QString()), true);
-    row("a digest in capitals is another one", secret, makeMd5(secret).toUpper(), false);
-    row("a service without a digest lets nobody in", {}, {}, false);
+    QTest::newRow("the right password logs in") << makeMd5(secret) << secret << true;
+    QTest::newRow("a wrong one does not") << makeMd5(secret) << newSecret << false;
+    QTest::newRow("an empty field is compared like any other") << makeMd5(QString()) << QString() << true;
+    QTest::newRow("a digest in capitals is another one") << makeMd5(secret).toUpper() << secret << false;
+    QTest::newRow("a service without a digest lets nobody in") << QString() << QString() << false;
 }
 
 void AdminDialogsTest::loginComparesTheDigest()
 {
-    QFETCH(QString, typed);
     QFETCH(QString, digest);
+    QFETCH(QString, typed);
     QFETCH(bool, loggedIn);
     panel->service.replyTo("get_password", passwordReply(digest));
     LogiInWindow dialog(panel->link(), nullptr);
@@ -187,7 +170,6 @@ void AdminDialogsTest::loginComparesTheDigest()
     QCOMPARE(dialog.focusWidget(), field);
     QCOMPARE(field->echoMode(), QLineEdit::Password);
     field->setText(typed);
-
     for (int round = 1; round <= (loggedIn ? 1 : 2); ++round) { // a refusal leaves the way open to ask again
         pressOk(dialog);
         QVERIFY(waitsOnce(dialog));
@@ -254,16 +236,14 @@ void AdminDialogsTest::entriesAreCheckedInOrder_data()
     QTest::addColumn<QString>("repeated");
     QTest::addColumn<QString>("administrator"); // what is said; empty: the change goes out
     QTest::addColumn<QString>("client");
-    const auto row = [](const char* sentence, const QString& oldPassword, const QString& newPassword,
-                        const QString& repeated, const QString& administrator, const QString& client) {
-        QTest::newRow(sentence) << oldPassword << newPassword << repeated << administrator << client;
-    };
+    const QString none;
     const QString other = QStringLiteral("x");
-    row("all in order", secret, newSecret, newSecret, {}, {});
-    row("a wrong old password comes first", newSecret, {}, other, wrongPassword, wrongPassword);
-    row("only a client may have none", secret, {}, {}, emptyPassword, {});
-    row("an empty one before its repetition", secret, {}, other, emptyPassword, otherRepeat);
-    row("repeated in another case", secret, newSecret, newSecret.toUpper(), otherRepeat, otherRepeat);
+    QTest::newRow("all in order") << secret << newSecret << newSecret << none << none;
+    QTest::newRow("a wrong old password first")
+        << newSecret << none << other << wrongPassword << wrongPassword;
+    QTest::newRow("only a client may have none") << secret << none << none << emptyPassword << none;
+    QTest::newRow("empty before repeated") << secret << none << other << emptyPassword << otherRepeat;
+    QTest::newRow("another case") << secret << newSecret << newSecret.toUpper() << otherRepeat << otherRepeat;
 }
 
 void AdminDialogsTest::entriesAreCheckedInOrder()
@@ -352,7 +332,11 @@ void AdminDialogsTest::administratorPasswordChanges()
 
 void AdminDialogsTest::addressIsTakenAsItStands()
 {
-    qputenv("VELMORA_CONTROL_PANEL_INI", m_ini + "/below"); // nobody can write below a regular file
+    // The panel's file is the administrator's, and its user is somebody else.
+    QFile::setPermissions(qEnvironmentVariable("VELMORA_CONTROL_PANEL_INI"), QFile::ReadOwner);
+    const uid_t user = geteuid();
+    QCOMPARE(seteuid(user == 0 ? 65534 : user), 0);
+    const auto restore = qScopeGuard([user] { QCOMPARE(seteuid(user), 0); });
     // Deleted before it comes to look a name up.
     const auto idleLink = std::make_unique<UpsSocketController>();
     const QString old = QStringLiteral("old");
