@@ -169,8 +169,8 @@ KeyValues defaultApplicationSettings()
     return {
         {QStringLiteral("smtp2_security_type"), QStringLiteral("none")},
         {QStringLiteral("smtp2_server"), QString()},
-        {QStringLiteral("smtp2_port"), QStringLiteral("25")},
-        {QStringLiteral("smtp2_timeout"), QStringLiteral("30")},
+        {QStringLiteral("smtp2_port"), QStringLiteral("0")},
+        {QStringLiteral("smtp2_timeout"), QStringLiteral("0")},
         {QStringLiteral("smtp2_sender_address"), QString()},
         {QStringLiteral("smtp2_authentication"), QStringLiteral("0")},
         {QStringLiteral("smtp2_user"), QString()},

@@ -130,10 +130,12 @@ void ApplicationConfigurationWindow::fillSmtpForm(const SmtpConfig& config)
 {
     ui->smtpSecurityBox->setCurrentIndex(
         ui->smtpSecurityBox->findData(Velmora::encryptionId(config.security_type)));
+    // What was saved blank is shown blank: with zeros in it nothing could be saved any more.
+    const bool blank = Velmora::isBlankMailAccount(config);
     ui->smtpServerEdit->setText(config.server);
-    ui->smtpPortEdit->setText(QString::number(config.port));
+    ui->smtpPortEdit->setText(blank ? QString() : QString::number(config.port));
     ui->smtpSenderAddressEdit->setText(config.sender_address);
-    ui->smtpTimeoutEdit->setText(QString::number(config.timeout));
+    ui->smtpTimeoutEdit->setText(blank ? QString() : QString::number(config.timeout));
     ui->smtpAuthenticationBox->setChecked(config.authentication);
     ui->smtpUserEdit->setText(config.user);
     ui->smtpPassEdit->setText(config.pass);

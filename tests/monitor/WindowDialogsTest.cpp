@@ -182,6 +182,16 @@ void WindowDialogsTest::serviceSettingsAreSavedWhole()
         driveModal<ApplicationConfigurationWindow>([this] { open("aplicationConfigurationButton"); }, edit));
     QVERIFY(panel->service.waitForRequest("application_configuration"));
     QVERIFY(panel->service.requests().constLast().xml.contains(settings));
+
+    // Without a mail account everything else can be saved, again and again.
+    const auto leaveBlank = [&](const ApplicationConfigurationWindow& dialog) {
+        QVERIFY(panel->send("<application_configuration><log_files_path>/l</log_files_path>"
+                            "<smtp2_port>0</smtp2_port></application_configuration>"));
+        pressOk(dialog);
+    };
+    QVERIFY(driveModal<ApplicationConfigurationWindow>([this] { open("aplicationConfigurationButton"); },
+                                                       leaveBlank));
+    QVERIFY(panel->service.waitForRequest("application_configuration", 2));
 }
 
 void WindowDialogsTest::settingReachesNoOtherDevice()

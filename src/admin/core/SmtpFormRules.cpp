@@ -14,6 +14,12 @@ SmtpFormFaults checkSmtpForm(const SmtpFormEntry& entry, bool allowEmpty)
             !entry.timeout.acceptable};
 }
 
+bool isBlankMailAccount(const Utils::SmtpConfig& config)
+{
+    return config.server.isEmpty() && config.sender_address.isEmpty() && config.port == 0 &&
+           config.timeout == 0;
+}
+
 QString senderAddressPattern()
 {
     return QStringLiteral(R"re(^[\w!#$%&'*+/=?`{|}~^-]+(?:\.[\w!#$%&'*+/=?`{|}~^-]+)*@)re"

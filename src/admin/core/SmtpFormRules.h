@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "link/ServiceSettings.h"
+
 #include <QString>
 
 namespace Velmora {
@@ -34,6 +36,9 @@ struct SmtpFormFaults
 
 /// With `allowEmpty` a form that is blank altogether is right: no mail is sent then.
 [[nodiscard]] SmtpFormFaults checkSmtpForm(const SmtpFormEntry& entry, bool allowEmpty);
+
+/// Whether the record is what a blank form is saved as.
+[[nodiscard]] bool isBlankMailAccount(const Utils::SmtpConfig& config);
 
 /// Regular expression that a sender's address matches as a whole.
 [[nodiscard]] QString senderAddressPattern();
