@@ -235,8 +235,9 @@ void ApplicationConfigurationWindow::addUpsButtonClickHandler()
     dialog->setUpsName(QString());
     dialog->setSocketController(m_controller);
     dialog->setAllUpsList(m_devices);
+    QPointer<AddUpsWindow> member;
     // The base's acceptance: this dialog's own would send its settings.
-    Velmora::runModal(m_addUps, dialog, [this](AddUpsWindow& /*accepted*/) { QDialog::accept(); });
+    Velmora::runModal(member, dialog, [this](AddUpsWindow& /*accepted*/) { QDialog::accept(); });
 }
 
 void ApplicationConfigurationWindow::addVirtualUpsButtonClickHandler()
@@ -246,8 +247,8 @@ void ApplicationConfigurationWindow::addVirtualUpsButtonClickHandler()
     dialog->setSocketController(m_controller);
     dialog->setPhyDevIncludedIntoAllVirtuals(m_members);
     dialog->displayAvailableParallelDevices(m_devices);
-    Velmora::runModal(m_addVirtualUps, dialog,
-                      [this](AddVirtualUpsWindow& /*accepted*/) { QDialog::accept(); });
+    QPointer<AddVirtualUpsWindow> member;
+    Velmora::runModal(member, dialog, [this](AddVirtualUpsWindow& /*accepted*/) { QDialog::accept(); });
 }
 
 void ApplicationConfigurationWindow::sendTestMailButtonClickHandler()

@@ -12,8 +12,6 @@
 #include <memory>
 #include <optional>
 
-class AddUpsWindow;
-class AddVirtualUpsWindow;
 class SmtpTestWindow;
 
 namespace Ui {
@@ -82,6 +80,4 @@ private:
     QList<Velmora::Utils::Ups> m_devices;
     std::optional<Velmora::Utils::ApplicationConfiguration> m_configuration; ///< as received
     QPointer<SmtpTestWindow> m_smtpTest;
-    QPointer<AddUpsWindow> m_addUps;
-    QPointer<AddVirtualUpsWindow> m_addVirtualUps;
 };
