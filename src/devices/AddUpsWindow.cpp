@@ -179,7 +179,7 @@ void AddUpsWindow::fillPorts()
             continue;
         const int item = ui->communicationPortBox->count() - 1;
         ui->communicationPortBox->setItemData(item, inUseFont, Qt::FontRole);
-        ui->communicationPortBox->setItemData(item, QColor(Qt::gray), Qt::ForegroundRole);
+        ui->communicationPortBox->setItemData(item, QColor(QStringLiteral("grey")), Qt::ForegroundRole);
     }
 }
 
@@ -264,10 +264,13 @@ void AddUpsWindow::accept()
     m_record.user_defined_name = ui->upsNameEdit->text().left(longestName);
     Velmora::setCommunication(m_record, Velmora::communicationKind(interface),
                               ui->communicationPortBox->currentText());
+    const QPointer<AddUpsWindow> guard(this);
     if (m_edited)
         sendChange(resetsEvents);
     else
         m_controller->sendDeviceData(m_record);
+    if (!guard)
+        return;
     m_controller->getAvailablePorts();
     QDialog::accept();
 }

@@ -51,8 +51,9 @@ QString SnmpOptionsWindow::getWriteCommunity() const
 void SnmpOptionsWindow::setSnmpVer(const QString& version, bool selectable)
 {
     ui->snmpVerComboBox->setEnabled(selectable);
-    // A new device has no version yet: the box then keeps its first one.
-    ui->snmpVerComboBox->setCurrentText(selectable ? version : QStringLiteral("v1"));
+    // A new device has no version yet, and one that cannot choose has the first.
+    const int shown = selectable ? ui->snmpVerComboBox->findText(version, Qt::MatchFixedString) : 0;
+    ui->snmpVerComboBox->setCurrentIndex(qMax(0, shown));
 }
 
 QString SnmpOptionsWindow::getSnmpVer() const
