@@ -18,10 +18,8 @@ using Models = QList<Utils::Model>;
 /// Fills a row from a device of a known model; false, with the row untouched, if the catalogue lacks it.
 bool describeDevice(DeviceTreeRow& row, const Utils::Ups& device, const Models& models)
 {
-    const auto model = std::find_if(models.cbegin(), models.cend(), [&device](const Utils::Model& candidate) {
-        return candidate.configName == device.model_name;
-    });
-    if (model == models.cend())
+    const Utils::Model* model = Utils::findModel(models, device.model_name);
+    if (!model)
         return false;
     row.text = device.user_defined_name.isEmpty() ? model->fullName : device.user_defined_name;
     // Colour comes with the first status list.

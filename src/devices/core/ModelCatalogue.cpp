@@ -4,6 +4,9 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+#include <iterator>
+
 namespace Velmora::Utils {
 namespace {
 
@@ -109,14 +112,19 @@ QList<Model> getAllSuportedModelList()
     return models;
 }
 
+const Model* findModel(const QList<Model>& models, const QString& configName)
+{
+    const auto model = std::find_if(models.cbegin(), models.cend(), [&configName](const Model& candidate) {
+        return candidate.configName == configName;
+    });
+    return model == models.cend() ? nullptr : &*model;
+}
+
 QString getModelShortName(const QString& configName)
 {
     const QList<Model> models = getAllSuportedModelList();
-    for (const Model& model : models) {
-        if (model.configName == configName)
-            return model.shortName;
-    }
-    return unknownModel();
+    const Model* model = findModel(models, configName);
+    return model ? model->shortName : unknownModel();
 }
 
 QString getModelConfigName(const QString& shortName, const QString& interface)

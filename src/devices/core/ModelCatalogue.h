@@ -16,6 +16,9 @@ namespace Velmora::Utils {
 /// every call, since two names follow the language that is installed at that moment.
 [[nodiscard]] QList<Model> getAllSuportedModelList();
 
+/// The entry with this config name; null if `models`, which the pointer leads into, has none.
+[[nodiscard]] const Model* findModel(const QList<Model>& models, const QString& configName);
+
 /// Short name of a config name; "unknown" if no model has it.
 [[nodiscard]] QString getModelShortName(const QString& configName);
 

@@ -103,11 +103,8 @@ QString virtualMemberStatusText(VirtualMemberState state)
 QString modelLabel(const QString& configName)
 {
     const QList<Utils::Model> models = Utils::getAllSuportedModelList();
-    const auto model =
-        std::find_if(models.cbegin(), models.cend(), [&configName](const Utils::Model& candidate) {
-            return candidate.configName == configName;
-        });
-    return model == models.cend() ? configName : model->fullName;
+    const Utils::Model* model = Utils::findModel(models, configName);
+    return model ? model->fullName : configName;
 }
 
 } // namespace Velmora
