@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QRegExp>
+#include <QSettings>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTemporaryDir>
@@ -96,8 +97,10 @@ void UpdatesTest::updatesAreOfferedAndFetched()
     m_updates.userId = [&installer] { return installer == "refused" ? 1000U : 0U; };
     m_answers = {{"/new", "200 OK\r\n\r\n<a><b></a>"}, {"/moved", "200 OK\r\n\r\nnew"}};
     if (!installer.isEmpty())
-        m_answers.insert("/VL/", installer);
+        m_answers.insert("/VL/velmora_Professional-i386-rpm.bin", installer);
     WindowFixture panel;
+    QSettings(qEnvironmentVariable("VELMORA_CONTROL_PANEL_INI"), QSettings::IniFormat)
+        .setValue(QStringLiteral("platform"), QStringLiteral("i386-rpm"));
     panel.window = std::make_unique<VelmoraWindow>(m_updates);
     const auto check = [&] { panel.find<QAction>("actionCheckForUpdates")->trigger(); };
     check();
