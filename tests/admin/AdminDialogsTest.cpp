@@ -76,9 +76,22 @@ class AdminDialogsTest final : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void cleanupTestCase();
-    void init();
+    void initTestCase()
+    {
+        qInstallMessageHandler([](auto /*type*/, auto& /*context*/, auto& line) { debugOutput() += line; });
+    }
+    void cleanupTestCase()
+    {
+        qInstallMessageHandler(nullptr);
+        for (const QString& text : {secret, newSecret, makeMd5(secret), makeMd5(newSecret)})
+            QVERIFY2(!debugOutput().contains(text), qPrintable(debugOutput()));
+    }
+    void init()
+    {
+        panel = std::make_unique<WindowFixture>();
+        QVERIFY(panel->open(deviceList({device(1, "TarvexRT_USB", "A")})));
+        panel->service.clearRequests();
+    }
     void cleanup() { panel.reset(); }
 
     void loginComparesTheDigest_data();
@@ -91,52 +104,23 @@ private slots:
     void addressIsTakenAsItStands();
 
 private:
-    void wire(LogiInWindow& dialog);
-    void wire(PasswordChangeWindow& dialog);
+    template <typename Dialog>
+    void wire(Dialog& dialog)
+    {
+        using Link = UpsSocketController;
+        connect(&dialog, &Dialog::getPassword, panel->link(), &Link::getPassword);
+        connect(panel->link(), &Link::adminPassFromConfig, &dialog, &Dialog::comparePasswords);
+        if constexpr (std::is_same_v<Dialog, PasswordChangeWindow>) {
+            connect(&dialog, &Dialog::changePassword, panel->link(), &Link::changePassword);
+            connect(panel->link(), &Link::passwordChanged, &dialog, &Dialog::passwordChanged);
+        }
+        dialog.show();
+    }
     /// The digest that the next request carries; "?" if none arrives.
     [[nodiscard]] QString carriedDigest();
 
     std::unique_ptr<WindowFixture> panel;
 };
-
-void AdminDialogsTest::initTestCase()
-{
-    qInstallMessageHandler([](auto /*type*/, auto& /*context*/, auto& line) { debugOutput() += line; });
-}
-
-void AdminDialogsTest::cleanupTestCase()
-{
-    qInstallMessageHandler(nullptr);
-    for (const QString& text : {secret, newSecret, makeMd5(secret), makeMd5(newSecret)})
-        QVERIFY2(!debugOutput().contains(text), qPrintable(debugOutput()));
-}
-
-void AdminDialogsTest::init()
-{
-    panel = std::make_unique<WindowFixture>();
-    QVERIFY(panel->open(deviceList({device(1, "TarvexRT_USB", "A")})));
-    panel->service.clearRequests();
-}
-
-void AdminDialogsTest::wire(LogiInWindow& dialog)
-{
-    connect(&dialog, &LogiInWindow::getPassword, panel->link(), &UpsSocketController::getPassword);
-    connect(panel->link(), &UpsSocketController::adminPassFromConfig, &dialog,
-            &LogiInWindow::comparePasswords);
-    dialog.show();
-}
-
-void AdminDialogsTest::wire(PasswordChangeWindow& dialog)
-{
-    connect(&dialog, &PasswordChangeWindow::getPassword, panel->link(), &UpsSocketController::getPassword);
-    connect(&dialog, &PasswordChangeWindow::changePassword, panel->link(),
-            &UpsSocketController::changePassword);
-    connect(panel->link(), &UpsSocketController::adminPassFromConfig, &dialog,
-            &PasswordChangeWindow::comparePasswords);
-    connect(panel->link(), &UpsSocketController::passwordChanged, &dialog,
-            &PasswordChangeWindow::passwordChanged);
-    dialog.show();
-}
 
 QString AdminDialogsTest::carriedDigest()
 {
