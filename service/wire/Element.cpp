@@ -21,7 +21,10 @@ class ElementReader final
 public:
     explicit ElementReader(const QString& document)
         : m_reader(document)
-    {}
+    {
+        // Entities that the request declares may not make it longer: a few bytes could stand for gigabytes.
+        m_reader.setEntityExpansionLimit(0);
+    }
 
     std::optional<Element> readDocument()
     {

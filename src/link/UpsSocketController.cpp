@@ -185,6 +185,8 @@ bool UpsSocketController::readMessages(QIODevice& source)
         if (repeatReply(m_text))
             continue;
         QXmlStreamReader reader = readMessageBytes(m_text);
+        // Entities that it declares may not make the text longer: a few bytes could stand for gigabytes.
+        reader.setEntityExpansionLimit(0);
         if (!handleMessage(reader))
             return false;
     }

@@ -9,6 +9,12 @@
 using namespace Velmora::Service;
 using namespace Velmora::Tests;
 
+namespace {
+
+const QByteArray request = ScriptedService::frame("<get_service_version><pass></pass></get_service_version>");
+
+} // namespace
+
 class HostileClientTest final : public QObject
 {
     Q_OBJECT
@@ -17,6 +23,7 @@ private slots:
     void init();
     void cleanup();
     void brokenFrameEndsThisConnectionOnly();
+    void panelMayVanishAtEachByte();
     void malformedRequestIsDropped();
     void framesMayBeSplitAndJoined();
     void clientThatDoesNotReadIsDropped();
@@ -42,7 +49,7 @@ void HostileClientTest::cleanup()
 
 void HostileClientTest::brokenFrameEndsThisConnectionOnly()
 {
-    QByteArray flipped = ScriptedService::frame("<get_service_version><pass></pass></get_service_version>");
+    QByteArray flipped = request;
     flipped[20] = static_cast<char>(flipped.at(20) ^ 1);
     // Just beyond 1 MiB, the top bit of the size, nothing, one byte, an empty document.
     for (const QByteArray& bytes : {QByteArray("\x00\x10\x00\x01", 4), QByteArray("\xff\xff\xff\xf0", 4),
@@ -55,17 +62,30 @@ void HostileClientTest::brokenFrameEndsThisConnectionOnly()
     }
 }
 
+void HostileClientTest::panelMayVanishAtEachByte()
+{
+    // In all more connections than may stand at once, so that none of them can be left behind.
+    for (int i = 0; i < request.size(); ++i) {
+        PanelClient().sendRaw(request.left(i));
+        PanelClient().sendRaw(request + request.left(i)); // the reply to the first one stays unread
+        QVERIFY(m_honest->synchronize());
+    }
+    QTRY_VERIFY(PanelClient().synchronize());
+}
+
 void HostileClientTest::malformedRequestIsDropped()
 {
     // Each of them would be read as a change and refused with another line if it passed as well-formed; the
-    // last is larger than any request when unpacked.
+    // third is larger than any request when unpacked, the last grows by its entities.
     const QByteArray deep = QByteArray("<a>").repeated(20000) + QByteArray("</a>").repeated(20000);
-    for (const QByteArray& content :
-         {QByteArray("</events><events>"), deep, QByteArray("<a/>").repeated(200000),
-          QByteArray(8 * 1024 * 1024, ' ')}) {
+    for (const QByteArray& document :
+         QVector<QByteArray>{"<events/><events/>", "<events>" + deep + "</events>",
+                             "<events>" + QByteArray(8 * 1024 * 1024, ' ') + "</events>",
+                             "<events>" + QByteArray("<a/>").repeated(200000) + "</events>",
+                             "<!DOCTYPE a [<!ENTITY a \"xxxx\">]><events>&a;</events>"}) {
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("not well-formed XML")));
         PanelClient hostile;
-        hostile.sendRaw(ScriptedService::frame("<events>" + content + "</events>"));
+        hostile.sendRaw(ScriptedService::frame(document));
         QVERIFY(hostile.synchronize());
     }
 }
@@ -73,8 +93,6 @@ void HostileClientTest::malformedRequestIsDropped()
 void HostileClientTest::framesMayBeSplitAndJoined()
 {
     PanelClient client;
-    const QByteArray request =
-        ScriptedService::frame("<get_service_version><pass></pass></get_service_version>");
     for (const char byte : request) {
         client.sendRaw(QByteArray(1, byte));
         QCoreApplication::processEvents();
