@@ -15,6 +15,8 @@ namespace {
 // A panel probes on each of its interfaces at once; one answer is enough, also for a flood.
 constexpr int quietMilliseconds = 250;
 constexpr int largestProbe = 16;
+// The rest of a flood waits until the panels had their turn.
+constexpr int probesPerTurn = 64;
 
 } // namespace
 
@@ -49,7 +51,7 @@ bool DiscoveryResponder::listen(const QHostAddress& address, QString& reason)
 void DiscoveryResponder::readProbes(QUdpSocket& socket)
 {
     QSet<QHostAddress> destinations;
-    while (socket.hasPendingDatagrams()) {
+    for (int i = 0; i < probesPerTurn && socket.hasPendingDatagrams(); ++i) {
         const QNetworkDatagram datagram = socket.receiveDatagram(largestProbe);
         if (datagram.data() == "5")
             destinations.insert(datagram.destinationAddress());
