@@ -20,13 +20,17 @@ void sendApplicationConfiguration(const RequestScope& scope, const Element& /*re
 
 void saveApplicationConfiguration(const RequestScope& scope, const Element& request)
 {
-    static_cast<void>(scope.change([&request](StoredData& changed) {
-        for (auto entry = changed.application.begin(); entry != changed.application.end(); ++entry) {
-            const QByteArray tag = entry.key().toLatin1();
-            if (const Element* value = request.child(QLatin1String(tag)))
-                entry.value() = value->text;
-        }
-    }));
+    KeyValues settings = scope.store().data().application;
+    for (auto entry = settings.begin(); entry != settings.end(); ++entry) {
+        const QByteArray tag = entry.key().toLatin1();
+        if (const Element* value = request.child(QLatin1String(tag)))
+            entry.value() = value->text;
+    }
+    if (encodeFrame(valuesReply(QLatin1String("application_configuration"), settings)).isEmpty()) {
+        scope.refuse(QStringLiteral("The settings were not saved: they are longer than a panel can read."));
+        return;
+    }
+    static_cast<void>(scope.change([&settings](StoredData& changed) { changed.application = settings; }));
 }
 
 void testMailAccount(const RequestScope& scope, const Element& request)
@@ -81,7 +85,13 @@ void changeClientPassword(const RequestScope& scope, const Element& request)
         scope.refuse(QStringLiteral("No network client answers at this address."));
         return;
     }
-    const QString digest = Velmora::Utils::makeMd5(request.childText(QLatin1String("password")));
+    // It may be empty, but not left out, nor hold what looks like elements: panels send it unescaped.
+    const Element* password = request.child(QLatin1String("password"));
+    if (!password || !password->children.isEmpty()) {
+        scope.refuse(QStringLiteral("The new password cannot be read."));
+        return;
+    }
+    const QString digest = Velmora::Utils::makeMd5(password->text);
     if (scope.change([&](StoredData& changed) { changed.clientDigests.insert(address, digest); }))
         scope.reply(emptyReply(QLatin1String("netclient_password_changed")));
 }

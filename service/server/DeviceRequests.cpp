@@ -13,6 +13,7 @@ constexpr int allLogs = 7;
 constexpr int longestInterval = 3600;  ///< seconds
 constexpr int largestLogFile = 100000; ///< kilobytes
 constexpr int longestName = 80;
+constexpr int mostReasons = 10; ///< lines of the message box in which a panel shows them
 
 const DeviceRegistration* findDevice(const StoredData& data, int id)
 {
@@ -21,12 +22,16 @@ const DeviceRegistration* findDevice(const StoredData& data, int id)
     return found == data.devices.cend() ? nullptr : &*found;
 }
 
-void replaceDevice(StoredData& data, const DeviceRegistration& device)
+// In the place of the device with this id, or behind all others.
+void putDevice(QVector<DeviceRegistration>& devices, const DeviceRegistration& device)
 {
-    for (DeviceRegistration& stored : data.devices) {
-        if (stored.id == device.id)
+    for (DeviceRegistration& stored : devices) {
+        if (stored.id == device.id) {
             stored = device;
+            return;
+        }
     }
+    devices.append(device);
 }
 
 int number(const Element& request, const char* field, int minimum, int maximum, int fallback)
@@ -73,6 +78,10 @@ QString registrationFault(const DeviceRegistration& device, const StoredData& da
 {
     if (device.modelName.isEmpty() || device.modelName == QLatin1String("unknown"))
         return QStringLiteral("The device has no model.");
+    QVector<DeviceRegistration> devices = data.devices;
+    putDevice(devices, device);
+    if (encodeFrame(deviceListReply(devices)).isEmpty())
+        return QStringLiteral("The list of devices would be longer than a panel can read.");
     if (device.communication != QLatin1String("rs232"))
         return {};
     const bool taken =
@@ -83,27 +92,19 @@ QString registrationFault(const DeviceRegistration& device, const StoredData& da
     return taken ? QStringLiteral("The port %1 is used by another device.").arg(device.comPort) : QString();
 }
 
-bool fitsIntoList(const RequestScope& scope, const DeviceRegistration& device)
-{
-    QVector<DeviceRegistration> devices = scope.store().data().devices;
-    devices.append(device);
-    return !encodeFrame(deviceListReply(devices)).isEmpty();
-}
-
 void addDevice(const RequestScope& scope, const Element& request)
 {
     const StoredData& data = scope.store().data();
     DeviceRegistration device;
     device.id = data.nextDeviceId;
     readRegistration(device, request, data);
-    const QString fault = fitsIntoList(scope, device) ? registrationFault(device, data)
-                                                      : QStringLiteral("There are too many devices already.");
+    const QString fault = registrationFault(device, data);
     if (!fault.isEmpty()) {
         scope.refuse(fault);
         return;
     }
     const bool stored = scope.change([&device](StoredData& changed) {
-        changed.devices.append(device);
+        putDevice(changed.devices, device);
         changed.policies.insert(device.id, defaultPolicy());
         changed.nextDeviceId = device.id + 1;
     });
@@ -129,7 +130,7 @@ void changeDevice(const RequestScope& scope, const Element& request)
     const bool otherModel = device.modelName != known->modelName;
     const bool resetEvents = request.childText(QLatin1String("reset_events_request")).toInt() != 0;
     const bool stored = scope.change([&](StoredData& changed) {
-        replaceDevice(changed, device);
+        putDevice(changed.devices, device);
         if (otherModel)
             changed.settings.remove(device.id);
         if (resetEvents)
@@ -151,7 +152,7 @@ void changeLogging(const RequestScope& scope, const Element& request)
     }
     DeviceRegistration device = *known;
     readLogging(device, request);
-    if (scope.change([&device](StoredData& changed) { replaceDevice(changed, device); }))
+    if (scope.change([&device](StoredData& changed) { putDevice(changed.devices, device); }))
         scope.devicesChanged();
 }
 
@@ -177,25 +178,26 @@ void removeDevice(const RequestScope& scope, const Element& request)
     scope.devicesChanged();
 }
 
-void applySetting(const RequestScope& scope, int device, const Element& setting)
-{
-    const SettingOutcome outcome = scope.backend().applySetting(device, setting.name, setting.text);
-    if (!outcome.accepted) {
-        scope.refuse(QStringLiteral("Setting %1 was not taken: %2.").arg(setting.name, outcome.reason));
-        return;
-    }
-    if (outcome.lasting != scope.store().data().settings.value(device))
-        static_cast<void>(
-            scope.change([&](StoredData& changed) { changed.settings[device] = outcome.lasting; }));
-}
-
 void setConfiguration(const RequestScope& scope, const Element& request)
 {
     const int device = scope.device();
+    const KeyValues before = scope.store().data().settings.value(device);
+    KeyValues lasting = before;
+    QStringList refused;
     for (const Element& setting : request.children) {
-        if (setting.name != QLatin1String("pass"))
-            applySetting(scope, device, setting);
+        if (setting.name == QLatin1String("pass"))
+            continue;
+        const SettingOutcome outcome = scope.backend().applySetting(device, setting.name, setting.text);
+        if (outcome.accepted)
+            lasting = outcome.lasting;
+        else if (refused.size() < mostReasons)
+            refused.append(QStringLiteral("Setting %1 was not taken: %2.")
+                               .arg(setting.name.left(longestName), outcome.reason));
     }
+    if (!refused.isEmpty())
+        scope.refuse(refused.join(QLatin1Char('\n')));
+    if (lasting != before)
+        static_cast<void>(scope.change([&](StoredData& changed) { changed.settings[device] = lasting; }));
 }
 
 } // namespace

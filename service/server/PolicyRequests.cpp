@@ -126,8 +126,10 @@ void removeComputer(const RequestScope& scope, const Element& request)
 {
     bool valid = false;
     const int id = request.childText(QLatin1String("id")).toInt(&valid);
-    if (!valid)
+    if (!valid) {
+        scope.refuse(QStringLiteral("There is no such computer."));
         return;
+    }
     static_cast<void>(scope.change([id](StoredData& changed) {
         removeWithId(changed.computers, id);
         for (Policy& policy : changed.policies) {
