@@ -67,7 +67,6 @@ class PanelSetupTest final : public QObject
 private slots:
     void initTestCase();
     void iniFileKeepsChanges();
-    void languageWordChoosesTheTexts_data();
     void languageWordChoosesTheTexts();
     void englishTextsKeepTheFrame();
     void everyPictureThatIsNamedLoads();
@@ -108,34 +107,26 @@ void PanelSetupTest::iniFileKeepsChanges()
     QCOMPARE(ControlPanelConfiguration().getServerAddress(), QString());
 }
 
-void PanelSetupTest::languageWordChoosesTheTexts_data()
-{
-    QTest::addColumn<QString>("word");
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<QString>("panelText");
-    QTest::addColumn<QString>("saveButton");
-    const auto row = [](const char* sentence, const char* word, const QString& locale, const char* save) {
-        const char* text = locale == QLatin1String("en_US") ? "UPS configuration" : "Konfiguracja UPS";
-        QTest::newRow(sentence) << word << locale << text << save;
-    };
-    row("Polish: source texts, Qt's in Polish", "polish", QStringLiteral("pl"), "Zachowaj");
-    row("English: translated texts, Qt's own", "english", QStringLiteral("en_US"), "Save");
-    row("Czech by the word of installed files", "chech", QStringLiteral("cs"), "Save");
-    row("Slovak has no catalogue", "slovak", QStringLiteral("sk"), "Save");
-    row("another word means the system's locale", "Polish", QLocale::system().name(), "Save");
-}
-
 void PanelSetupTest::languageWordChoosesTheTexts()
 {
-    QFETCH(QString, word);
-    QTEST(panelLocaleName(word), "locale");
-    QTranslator qtTexts;
-    QTranslator panelTexts;
-    Startup::installTranslators(word, qtTexts, panelTexts);
-    QTEST(QCoreApplication::translate("VelmoraWindow", "Konfiguracja UPS"), "panelText");
-    QTEST(QCoreApplication::translate("QPlatformTheme", "Save"), "saveButton");
-    const QString device = Utils::getModelShortName(QStringLiteral("Virtual_Device"));
-    QCOMPARE(device == QLatin1String("WIRTUALNY UPS"), word != QLatin1String("english"));
+    // Word, locale, the panel's text, Qt's and one of the catalogue of models; "chech" is in installed files.
+    const QByteArray system = QLocale::system().name().toUtf8();
+    for (const QByteArrayList& row :
+         QVector<QByteArrayList>{{"polish", "pl", "Konfiguracja UPS", "Zachowaj", "WIRTUALNY UPS"},
+                                 {"english", "en_US", "UPS configuration", "Save", "VIRTUAL UPS"},
+                                 {"chech", "cs", "Konfiguracja UPS", "Save", "WIRTUALNY UPS"},
+                                 {"slovak", "sk", "Konfiguracja UPS", "Save", "WIRTUALNY UPS"},
+                                 {"Polish", system, "Konfiguracja UPS", "Save", "WIRTUALNY UPS"}}) {
+        const QString word = QString::fromUtf8(row.at(0));
+        QTranslator qtTexts;
+        QTranslator panelTexts;
+        Startup::installTranslators(word, qtTexts, panelTexts);
+        const QStringList texts{word, panelLocaleName(word),
+                                QCoreApplication::translate("VelmoraWindow", "Konfiguracja UPS"),
+                                QCoreApplication::translate("QPlatformTheme", "Save"),
+                                Utils::getModelShortName(QStringLiteral("Virtual_Device"))};
+        QCOMPARE(texts.join(QLatin1Char('|')).toUtf8(), row.join('|'));
+    }
 }
 
 void PanelSetupTest::englishTextsKeepTheFrame()

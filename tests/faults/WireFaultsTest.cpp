@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The Velmora developers
 // SPDX-License-Identifier: MIT
-#include "faults/Faults.h"
 #include "faults/Messages.h"
 #include "support/Feed.h"
 #include "support/InProcessService.h"
@@ -11,6 +10,7 @@
 #include <QLoggingCategory>
 #include <QScopeGuard>
 #include <QTest>
+#include <QXmlStreamReader>
 
 using namespace Velmora;
 using namespace Velmora::Tests;
@@ -35,6 +35,40 @@ QStringList names(const QStringList& signalEntries)
         found += entry.section(QLatin1Char('('), 0, 0);
     found.removeDuplicates();
     return found;
+}
+
+/// The document with each element below the root in turn left out, doubled, moved to the front, put into
+/// itself, filled with a long text and buried deeply.
+QVector<QByteArray> elementFaults(const QByteArray& document)
+{
+    const QString text = QString::fromUtf8(document);
+    const int front = text.indexOf(QLatin1Char('>')) + 1;
+    const QString deep = QStringLiteral("<deep>").repeated(1000);
+    const QString closed = QStringLiteral("</deep>").repeated(1000);
+    QVector<QByteArray> faults;
+    const auto add = [&faults](const QString& fault) { faults += fault.toUtf8(); };
+    QVector<int> begins;
+    QXmlStreamReader reader(text);
+    while (!reader.atEnd()) {
+        const auto token = reader.readNext();
+        const int position = static_cast<int>(reader.characterOffset());
+        if (token == QXmlStreamReader::StartElement)
+            begins.append(text.lastIndexOf(QLatin1Char('<'), position - 1));
+        if (token != QXmlStreamReader::EndElement || begins.size() == 1)
+            continue;
+        const int begin = begins.takeLast();
+        const QString element = text.mid(begin, position - begin);
+        const QString before = text.left(begin);
+        const QString behind = text.mid(position);
+        const int inside = element.indexOf(QLatin1Char('>')) + 1;
+        add(before + behind);
+        add(before + element + element + behind);
+        add(text.left(front) + element + before.mid(front) + behind);
+        add(before + QString(element).insert(inside, element) + behind);
+        add(before + QString(element).insert(inside, QString(20000, QLatin1Char('7'))) + behind);
+        add(before + deep + element + closed + behind);
+    }
+    return faults;
 }
 
 } // namespace

@@ -82,7 +82,6 @@ private slots:
     void carriesPasswords();
     void unpacksWithinBounds_data();
     void unpacksWithinBounds();
-    void frameSizes();
 };
 
 void CodecTest::readsAndWritesTheVectors_data()
@@ -232,13 +231,6 @@ void CodecTest::unpacksWithinBounds()
     QCOMPARE(crypt.decryptToByteArray(blob).size(), unpackedSize);
     QCOMPARE(crypt.lastError(), Error::NoError);
     QVERIFY2(memory.grown() <= freedMemoryFactor * memoryLimit, qPrintable(QString::number(memory.grown())));
-}
-
-void CodecTest::frameSizes()
-{
-    QCOMPARE(prepareMessageSize(QByteArray(0x8180, 'x')), QByteArray::fromHex("00008180"));
-    QCOMPARE(getMessegaSize(QByteArray::fromHex("00818283")), 0x818283); // no byte extends its sign
-    QCOMPARE(getMessegaSize(QByteArray::fromHex("80000000")), INT_MIN);
 }
 
 QTEST_APPLESS_MAIN(CodecTest)

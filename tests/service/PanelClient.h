@@ -110,13 +110,11 @@ public:
 private:
     void read()
     {
-        m_buffer += m_socket.readAll();
-        while (m_buffer.size() >= 4) {
-            const int size = Velmora::Utils::getMessegaSize(m_buffer.left(4));
-            if (m_buffer.size() < 4 + size)
+        while (m_socket.bytesAvailable() >= 4) {
+            const int size = Utils::getMessegaSize(m_socket.peek(4));
+            if (m_socket.bytesAvailable() < 4 + size)
                 return;
-            m_documents.append(Velmora::decrypt(m_buffer.mid(4, size)).toUtf8());
-            m_buffer.remove(0, 4 + size);
+            m_documents.append(decryptToUtf8(m_socket.read(4 + size).mid(4)));
         }
     }
     [[nodiscard]] int indexOf(const QByteArray& root) const
@@ -131,7 +129,6 @@ private:
 
     QTcpSocket m_socket;
     QByteArray m_pass;
-    QByteArray m_buffer;
     QVector<QByteArray> m_documents;
 };
 

@@ -1,13 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Velmora developers
 // SPDX-License-Identifier: MIT
-#include "service/logs/LogRecorder.h"
 #include "service/policy/DeviceConditions.h"
-#include "service/policy/PolicyRunner.h"
-#include "service/simulation/SimulatedBackend.h"
-#include "service/store/Store.h"
+#include "service/policy/PostfixExpression.h"
+#include "support/InProcessService.h"
 
 #include <QTest>
 
+using namespace Velmora;
 using namespace Velmora::Service;
 
 namespace {
@@ -77,40 +76,30 @@ void PolicyTest::conditionFollowsFromTheReport()
 
 void PolicyTest::dueActionsAreLoggedAndLaterOnesCancelled()
 {
-    const std::optional<Element> event = parseElement(QString::fromLatin1(batteryEvent));
-    Scenario scenario;
-    scenario.feeds.append(MainsFeed{QString(), 20, 400, 40, 0}); // fails from second 20 to 60
-    DeviceRegistration device;
-    device.modelName = QStringLiteral("TarvexRT_USB");
-    device.logParams = 2;
-    device.logTimeInterval = 3600;
-    device.id = 1;
-    StoredData data;
-    data.devices.append(device);
-    const Element broken{QStringLiteral("event"), {}, {}}; // as often as it likes
-    data.policies.insert(1, Policy{defaultPolicy().groups, {broken, *event, broken, *event}});
-    Store store;
-    QString reason;
-    QVERIFY(store.open(QString(), data, reason));
-    qint64 milliseconds = 0;
-    SimulatedBackend backend(
-        scenario, 1, {QDateTime(QDate(2026, 3, 4), QTime(5, 0, 0)), 1.0, [&] { return milliseconds; }});
-    LogRecorder logs(backend, store);
-    backend.setDevices(data.devices, {});
-    backend.start();
-    const PolicyRunner runner(backend, store, logs);
-    milliseconds = 70000;
-    backend.devices();
-    LogPosition position;
-    // Each line twice, since the event is there twice.
-    QStringList expected;
+    Tests::InProcessService service;
+    const auto ask = [&service](const QByteArray& name, const QByteArray& body) {
+        return service.ask('<' + name + '>' + service.pass() + body + "</" + name + '>').value(0);
+    };
+    // Each twice, one of them broken; mains fails from second 45 to 85.
+    QByteArray events = "<event><expressionIn>nonsense</expressionIn></event>";
+    events += batteryEvent;
+    (void)ask("events", "<ups_id>2</ups_id>" + events + events);
+    (void)ask("change_device_on_interface", "<id>2</id>");
+    for (int i = 0; i < 50; ++i)
+        (void)ask("clear_logs_cache", {}); // each takes two seconds
+    QByteArrayList noted;
+    for (const QByteArray& line : ask("get_ups_logs", "<type>messages</type>").split('>')) {
+        if (line.contains(",b: "))
+            noted += line.left(line.indexOf('<'));
+    }
+    QByteArrayList expected;
     for (const char* line :
-         {"05:00:20,b: message \"Lost; <all> \" on Default", "05:00:59,b: output_socket 2 off",
-          "05:01:00,b: cancelled power_off shutdown on Default"}) {
-        const QString whole = QStringLiteral("2026-03-04,%1").arg(QLatin1String(line));
+         {"05:00:45,b: message &quot;Lost; &lt;all&gt; &quot; on Default", "05:01:24,b: output_socket 2 off",
+          "05:01:25,b: cancelled power_off shutdown on Default"}) {
+        const QByteArray whole = QByteArray("2026-03-04,") + line;
         expected << whole << whole;
     }
-    QCOMPARE(logs.page(1, LogKind::Messages, LogAge::First, position), expected);
+    QCOMPARE(noted, expected);
 }
 
 QTEST_GUILESS_MAIN(PolicyTest)

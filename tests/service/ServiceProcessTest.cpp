@@ -19,19 +19,8 @@ private slots:
     void killLosesNothingThatWasShown();
 
 private:
-    void start(QProcess& process, const QStringList& arguments = {});
-
     QTemporaryDir m_folder;
 };
-
-void ServiceProcessTest::start(QProcess& process, const QStringList& arguments)
-{
-    process.start(QStringLiteral(VELMORA_SERVICE_PROGRAM),
-                  QStringList{QStringLiteral("--listen"), ScriptedService::testAddress()} + arguments);
-    QTRY_VERIFY_WITH_TIMEOUT(process.canReadLine(), 10000);
-    QCOMPARE(process.readLine(),
-             "velmora-service 2.5.1 listens on " + ScriptedService::testAddress().toLatin1() + ":12323\n");
-}
 
 void ServiceProcessTest::badStartEndsWithOneLine()
 {
@@ -65,7 +54,12 @@ void ServiceProcessTest::killLosesNothingThatWasShown()
     // Killed at another moment each time, while changes keep coming.
     for (int round = 0; round < 5; ++round) {
         QProcess process;
-        start(process, {QStringLiteral("--state"), m_folder.filePath(QStringLiteral("state.json"))});
+        process.start(QStringLiteral(VELMORA_SERVICE_PROGRAM),
+                      {QStringLiteral("--listen"), ScriptedService::testAddress(), QStringLiteral("--state"),
+                       m_folder.filePath(QStringLiteral("state.json"))});
+        QTRY_VERIFY_WITH_TIMEOUT(process.canReadLine(), 10000);
+        QCOMPARE(process.readLine(), "velmora-service 2.5.1 listens on " +
+                                         ScriptedService::testAddress().toLatin1() + ":12323\n");
         PanelClient client;
         client.setPassword(administratorPassword);
         const int kept = texts(client.get("ups_model_list"), "id").size();
