@@ -16,8 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<int>(size));
     (void)Velmora::decryptToUtf8(bytes);
     (void)Velmora::decryptPass(QString::fromLatin1(bytes));
-    require(Velmora::unpack(bytes.constData(), bytes.size()).size() <= Velmora::maximumUnpackedSize,
-            "unpacking is bounded");
+    require(Velmora::unpack(bytes.constData(), bytes.size(), 1000).size() <= 1000, "unpacking is bounded");
     for (const auto mode :
          {Velmora::SimpleCrypt::ProtectionMode::None, Velmora::SimpleCrypt::ProtectionMode::Checksum,
           Velmora::SimpleCrypt::ProtectionMode::Hash}) {

@@ -17,11 +17,14 @@ namespace {
 
 constexpr int sizeBytes = 4;
 constexpr int largestRequest = 1024 * 1024;
+// Packed, it may be a thousand times as long: to unpack and read that would hold up all other panels.
+constexpr int largestDocument = 4 * 1024 * 1024;
 constexpr qint64 largestBacklog = qint64{1024} * 1024;
 // A panel polls every second; a peer that says nothing for this long only holds a place.
 constexpr int idleMilliseconds = 120000;
-// After so many requests in a row the other panels get their turn.
+// After so many requests in a row the other panels get their turn; a long one counts as many.
 constexpr int requestsPerTurn = 16;
+constexpr int usualRequest = 4096;
 
 } // namespace
 
@@ -34,8 +37,17 @@ ClientSession::ClientSession(QTcpSocket* socket, QObject* parent)
     // Replies are small writes, which would otherwise wait for an acknowledgement.
     m_socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
     m_socket->setReadBufferSize(sizeBytes + largestRequest);
-    connect(m_socket, &QTcpSocket::readyRead, this, &ClientSession::readFrames);
-    connect(m_socket, &QTcpSocket::disconnected, this, [this] { close(QStringLiteral("the peer left")); });
+    connect(m_socket, &QTcpSocket::readyRead, this, [this] {
+        if (!m_nextTurn.isActive())
+            readFrames();
+    });
+    m_nextTurn.setSingleShot(true);
+    connect(&m_nextTurn, &QTimer::timeout, this, &ClientSession::readFrames);
+    connect(m_socket, &QTcpSocket::disconnected, this, [this] {
+        // What it saved just before may still wait.
+        readFrames();
+        close(QStringLiteral("the peer left"));
+    });
     m_idleTimer.setSingleShot(true);
     connect(&m_idleTimer, &QTimer::timeout, this,
             [this] { close(QStringLiteral("no request for two minutes")); });
@@ -78,6 +90,7 @@ void ClientSession::close(const QString& reason)
         return;
     m_closed = true;
     m_idleTimer.stop();
+    m_nextTurn.stop();
     m_socket->disconnect(this);
     m_socket->abort();
     qCInfo(serviceLog).noquote() << "connection of" << m_peer << "ended:" << reason;
@@ -87,13 +100,13 @@ void ClientSession::close(const QString& reason)
 void ClientSession::readFrames()
 {
     int requests = 0;
-    while (!m_closed && requests < requestsPerTurn && readFrame())
-        ++requests;
-    if (requests == requestsPerTurn)
-        QMetaObject::invokeMethod(this, &ClientSession::readFrames, Qt::QueuedConnection);
+    while (!m_closed && requests < requestsPerTurn && readFrame(requests)) {
+    }
+    if (requests >= requestsPerTurn)
+        m_nextTurn.start(0);
 }
 
-bool ClientSession::readFrame()
+bool ClientSession::readFrame(int& requests)
 {
     if (m_socket->bytesAvailable() < sizeBytes)
         return false;
@@ -105,13 +118,15 @@ bool ClientSession::readFrame()
     }
     if (m_socket->bytesAvailable() < sizeBytes + size)
         return false;
-    const QString text = Velmora::decrypt(m_socket->read(sizeBytes + size).mid(sizeBytes));
+    const QByteArray text =
+        Velmora::decryptToUtf8(m_socket->read(sizeBytes + size).mid(sizeBytes), largestDocument);
     if (text.isEmpty()) {
         close(QStringLiteral("it sent a frame that cannot be deciphered"));
         return false;
     }
     m_idleTimer.start(idleMilliseconds);
-    emit messageReceived(text);
+    emit messageReceived(QString::fromUtf8(text));
+    requests += 1 + text.size() / usualRequest;
     return true;
 }
 

@@ -59,10 +59,12 @@ signals:
 
 private:
     void readFrames();
-    [[nodiscard]] bool readFrame();
+    /// False if no whole frame waits; otherwise adds to `requests` as how many it counts.
+    [[nodiscard]] bool readFrame(int& requests);
 
     QTcpSocket* m_socket;
     QTimer m_idleTimer;
+    QTimer m_nextTurn; ///< runs while more may wait than one turn takes
     QString m_peer;
     int m_selectedDevice = noDevice;
     std::optional<LogBookmark> m_logBookmark;

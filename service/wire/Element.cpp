@@ -14,7 +14,6 @@ namespace {
 // A whole policy nests five deep and holds a few thousand elements; more is an attack on our memory.
 constexpr int maximumDepth = 16;
 constexpr int maximumElements = 50000;
-constexpr int maximumDocument = 4 * 1024 * 1024;
 
 class ElementReader final
 {
@@ -116,8 +115,6 @@ void Element::add(const QString& childName, const QString& childText)
 
 std::optional<Element> parseElement(const QString& document)
 {
-    if (document.size() > maximumDocument)
-        return std::nullopt;
     return ElementReader(document).readDocument();
 }
 

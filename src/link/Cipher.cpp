@@ -23,9 +23,9 @@ QString decrypt(const QByteArray& blob)
     return SimpleCrypt(messageKey).decryptToString(blob);
 }
 
-QByteArray decryptToUtf8(const QByteArray& blob)
+QByteArray decryptToUtf8(const QByteArray& blob, int largest)
 {
-    return SimpleCrypt(messageKey).decryptToByteArray(blob);
+    return SimpleCrypt(messageKey).decryptToByteArray(blob, largest);
 }
 
 QString encryptPass(const QString& password)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "link/Unpack.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -13,8 +15,9 @@ namespace Velmora {
 /// The text of one message; empty if the blob is not whole and genuine.
 [[nodiscard]] QString decrypt(const QByteArray& blob);
 
-/// The bytes of that text as they were carried, unchecked; empty for the same blobs.
-[[nodiscard]] QByteArray decryptToUtf8(const QByteArray& blob);
+/// The bytes of that text as they were carried, unchecked; empty for the same blobs and for what would unpack
+/// to more than `largest` bytes.
+[[nodiscard]] QByteArray decryptToUtf8(const QByteArray& blob, int largest = maximumUnpackedSize);
 
 /// Base64 text of the enciphered password.
 [[nodiscard]] QString encryptPass(const QString& password);

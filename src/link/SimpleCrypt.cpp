@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "link/SimpleCrypt.h"
 
-#include "link/Unpack.h"
-
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QDebug>
@@ -198,7 +196,7 @@ QString SimpleCrypt::encryptToString(const QString& plain)
     return encryptToString(plain.toUtf8());
 }
 
-QByteArray SimpleCrypt::decryptToByteArray(QByteArray cypher)
+QByteArray SimpleCrypt::decryptToByteArray(QByteArray cypher, int largest)
 {
     if (!hasKey())
         return {};
@@ -225,7 +223,7 @@ QByteArray SimpleCrypt::decryptToByteArray(QByteArray cypher)
         return {};
     }
     if ((flags & flagCompressed) != 0)
-        return unpack(payload, size);
+        return unpack(payload, size, largest);
     return {payload, size};
 }
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "link/Unpack.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -37,9 +39,9 @@ public:
     [[nodiscard]] QString encryptToString(QByteArray plain);
     [[nodiscard]] QString encryptToString(const QString& plain);
 
-    /// The payload; empty on failure, see lastError(). A payload that would unpack to more than 64 MiB is
-    /// empty too, with Error::NoError, like any payload that cannot be unpacked.
-    [[nodiscard]] QByteArray decryptToByteArray(QByteArray cypher);
+    /// The payload; empty on failure, see lastError(). A payload that would unpack to more than `largest`
+    /// bytes is empty too, with Error::NoError, like any payload that cannot be unpacked.
+    [[nodiscard]] QByteArray decryptToByteArray(QByteArray cypher, int largest = maximumUnpackedSize);
     /// `cypher` is the Base64 text of a blob.
     [[nodiscard]] QByteArray decryptToByteArray(const QString& cypher);
     [[nodiscard]] QString decryptToString(QByteArray cypher);

@@ -52,12 +52,12 @@ private:
 
 } // namespace
 
-QByteArray unpack(const char* data, int size)
+QByteArray unpack(const char* data, int size, int largest)
 {
     if (size <= lengthSize)
         return {};
     const qint64 announced = qFromBigEndian<quint32>(data);
-    if (announced > maximumUnpackedSize)
+    if (announced > largest)
         return {};
 
     InflateStream stream(data + lengthSize, size - lengthSize);
@@ -71,9 +71,9 @@ QByteArray unpack(const char* data, int size)
             break;
         // A full buffer means that the announced length was too small; anything else is a broken stream.
         const bool bufferFull = stream.freeSpace() == 0 && (status == Z_OK || status == Z_BUF_ERROR);
-        if (!bufferFull || unpacked.size() >= maximumUnpackedSize)
+        if (!bufferFull || unpacked.size() >= largest)
             return {};
-        unpacked.resize(qMin(2 * unpacked.size(), maximumUnpackedSize));
+        unpacked.resize(qMin(2 * unpacked.size(), largest));
     }
     unpacked.resize(used);
     return unpacked;
