@@ -117,6 +117,8 @@ void VelmoraWindow::createDeviceTree()
     upsTree->setObjectName(QStringLiteral("upsTree"));
     upsTree->setAccessibleName(ui->upsTreeGroupBox->title());
     upsTree->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    // Made after the form, it would be the last to get the focus.
+    upsTree->setFocus();
 }
 
 void VelmoraWindow::guardSingleInstance()

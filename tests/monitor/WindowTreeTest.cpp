@@ -82,6 +82,7 @@ void WindowTreeTest::rebuild()
     WindowFixture panel;
     QVERIFY(panel.open(first));
     QCOMPARE(panel.service.requestCount("change_device_on_interface"), 1);
+    QCOMPARE(panel.window->focusWidget(), panel.tree());
     panel.tree()->setCurrentItem(panel.tree()->allElements().back());
     QVERIFY(panel.settle());
     panel.service.clearRequests();
