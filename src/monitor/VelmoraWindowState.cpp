@@ -151,6 +151,9 @@ void VelmoraWindow::socketErrorTrigger()
     communicationFailedTimer.stop();
     if (!socketErrorTimer.isActive())
         socketErrorTimer.start();
+    // A busy service that went away cannot say that it is ready.
+    if (!ui->busyLabel->isHidden())
+        displayDaemonBusy(false);
 }
 
 void VelmoraWindow::showCountdownTimer(const QList<QPair<int, int>>& timers)

@@ -128,9 +128,13 @@ void WindowShellTest::debugMarkerStandsOnceInTheTitle()
 void WindowShellTest::busyServiceLocksTheWindow()
 {
     const auto* label = panel->find<QLabel>("busyLabel");
-    for (const bool busy : {true, false}) {
-        QVERIFY(panel->send(busy ? "<daemon_is_busy/>" : "<daemon_is_ready/>"));
-        QCOMPARE(panel->tree()->isEnabled(), !busy);
+    for (const char* news : {"<daemon_is_busy/>", "<daemon_is_ready/>", "<daemon_is_busy/>", "lost"}) {
+        const bool busy = qstrcmp(news, "<daemon_is_busy/>") == 0;
+        if (*news == '<')
+            QVERIFY(panel->send(news));
+        else
+            panel->service.stop();
+        QTRY_COMPARE(panel->tree()->isEnabled(), !busy);
         QCOMPARE(panel->find<QWidget>("centralWidget")->isEnabled(), !busy);
         QCOMPARE(label->isVisible(), busy);
         QCOMPARE(label->movie()->state() == QMovie::Running, busy);
