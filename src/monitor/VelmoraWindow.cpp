@@ -134,6 +134,8 @@ void VelmoraWindow::createTray()
     trayMenu = std::make_unique<QMenu>();
     toggleAction = trayMenu->addAction(tr("&Ukryj"), this, qOverload<>(&VelmoraWindow::toggleWindow));
     quitAction = trayMenu->addAction(tr("&Zakończ"), this, &VelmoraWindow::reallyClose);
+    // A panel that starts in the tray was never hidden by anybody.
+    connect(trayMenu.get(), &QMenu::aboutToShow, this, &VelmoraWindow::nameToggleAction);
     trayIcon = std::make_unique<QSystemTrayIcon>(QIcon(QStringLiteral(":/images/images/appicon_32.png")));
     trayIcon->setContextMenu(trayMenu.get());
     connect(trayIcon.get(), &QSystemTrayIcon::activated, this,

@@ -129,6 +129,7 @@ private:
     void createDeviceTree();
     void guardSingleInstance();
     void createTray();
+    void nameToggleAction();
     void connectController();
     void connectTree();
     void connectForm();

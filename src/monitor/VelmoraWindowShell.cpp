@@ -31,7 +31,7 @@ void VelmoraWindow::closeEvent(QCloseEvent* event)
     if (!reallyCloseRequested && isVisible()) {
         event->ignore();
         hide();
-        toggleAction->setText(tr("&Pokaż"));
+        nameToggleAction();
     } else {
         event->accept();
     }
@@ -45,9 +45,13 @@ void VelmoraWindow::toggleWindow(QSystemTrayIcon::ActivationReason reason)
 
 void VelmoraWindow::toggleWindow()
 {
-    const bool showIt = isHidden();
-    setVisible(showIt);
-    toggleAction->setText(showIt ? tr("&Ukryj") : tr("&Pokaż"));
+    setVisible(isHidden());
+    nameToggleAction();
+}
+
+void VelmoraWindow::nameToggleAction()
+{
+    toggleAction->setText(isHidden() ? tr("&Pokaż") : tr("&Ukryj"));
 }
 
 void VelmoraWindow::reallyClose()

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLocalSocket>
+#include <QMenu>
 #include <QMovie>
 #include <QSignalSpy>
 #include <QTest>
@@ -71,6 +72,13 @@ void WindowShellTest::trayAndSecondPanelShowTheWindow()
     }
     QVERIFY(panel->window->isHidden() && panel->trayAction(showText));
     panel->window->toggleWindow(Tray::Trigger);
+    // As after a start in the tray, where nobody has hidden the window.
+    auto* menu = qobject_cast<QMenu*>(panel->trayAction(hideText)->parent());
+    for (const bool visible : {false, true}) {
+        panel->window->setVisible(visible);
+        emit menu->aboutToShow();
+        QVERIFY(panel->trayAction(visible ? hideText : showText));
+    }
     for (int i = 0; i < 2; ++i) { // the second time finds a visible window, which stays as it is
         QVERIFY(panel->window->isVisible() && panel->trayAction(hideText));
         QLocalSocket secondPanel;
