@@ -205,6 +205,7 @@ private:
 
     Velmora::Utils::Ups currentDevice; ///< outlives rebuilds of the tree and so carries the selection
     QList<Velmora::Utils::SerialPort> m_serialPorts;
+    QString m_reportingDevice; ///< id of the device that reports are of
     QMap<QString, QString> lastDeviceState;
     /// Settings that were sent and of which no report has come since.
     QMap<QString, QString> pendingConfiguration;

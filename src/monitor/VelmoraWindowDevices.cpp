@@ -80,6 +80,10 @@ void VelmoraWindow::upsTreeCurrentIndexChangedHandler()
         return;
     upsTree->resizeColumnToContents(0);
     currentDevice = element->ups;
+    // Neither values nor history of another device stand in a dialog that is opened before the first report.
+    if (currentDevice.id != m_reportingDevice)
+        lastDeviceState.clear();
+    m_reportingDevice = currentDevice.id;
     setUpsModelText(element->modelFullName);
     setUpsModelImage(currentDevice.model_name);
     socketController->sendChangeUpsOnInterface(currentDevice.id.toInt());

@@ -136,6 +136,11 @@ void WindowDialogsTest::informationFollowsTheReports()
                                             QVERIFY(panel->send(report("230")));
                                             QCOMPARE(events->rowCount(), 1);
                                         }));
+    // Of a device that has not reported yet nothing is shown, rather than values of the one before.
+    panel->tree()->setCurrentItem(panel->row(QStringLiteral("B")));
+    QVERIFY(driveModal<ExtendInformationWindow>(
+        [this] { open("exInfoButton"); },
+        [](const QDialog& dialog) { QVERIFY(!dialog.findChild<QLineEdit*>()); }));
 }
 
 void WindowDialogsTest::serviceSettingsAreSavedWhole()
