@@ -84,6 +84,27 @@ QString fieldFault(const QJsonObject& object, const Field (&fields)[count])
     return {};
 }
 
+template <typename Elements>
+bool areAll(QJsonValue::Type type, const Elements& elements)
+{
+    return std::all_of(elements.constBegin(), elements.constEnd(),
+                       [type](const QJsonValue& element) { return element.type() == type; });
+}
+
+/// The same for the description of a device; also looks into its lists.
+QString profileFault(const QJsonObject& object)
+{
+    QString fault = fieldFault(object, profileFields);
+    if (!fault.isEmpty())
+        return fault;
+    if (!areAll(QJsonValue::Double, object.value(QLatin1String("load")).toArray()))
+        return QStringLiteral("\"load\" holds what is no number");
+    if (!areAll(QJsonValue::String, object.value(QLatin1String("messages")).toArray()) ||
+        !areAll(QJsonValue::String, object.value(QLatin1String("values")).toObject()))
+        return QStringLiteral("\"messages\" or \"values\" hold what is no text");
+    return {};
+}
+
 QStringList textList(const QJsonValue& value)
 {
     QStringList list;
@@ -211,7 +232,7 @@ bool ScenarioReader::readDevice(const QJsonObject& object, const QString& place)
 {
     const std::optional<DeviceRegistration> device = registrationFromJson(object);
     if (!device)
-        return failed(place % QStringLiteral(" needs an \"id\" above 0 and a \"model_name\""));
+        return failed(place % QStringLiteral(" needs an \"id\" of 0 or more and a \"model_name\""));
     const QStringList names = object.keys();
     for (const QString& name : names) {
         if (!isRegistrationField(name) && name != QLatin1String("simulation"))
@@ -222,7 +243,7 @@ bool ScenarioReader::readDevice(const QJsonObject& object, const QString& place)
     const QJsonValue simulation = object.value(QLatin1String("simulation"));
     if (!simulation.isUndefined() && !simulation.isObject())
         return failed(place % QStringLiteral(": \"simulation\" is not an object"));
-    const QString fault = fieldFault(simulation.toObject(), profileFields);
+    const QString fault = profileFault(simulation.toObject());
     if (!fault.isEmpty())
         return failed(place % QStringLiteral(": ") % fault);
     const DeviceProfile profile = profileFromJson(simulation.toObject());

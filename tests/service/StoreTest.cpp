@@ -91,6 +91,8 @@ void StoreTest::badFileIsNamedAndLeft_data()
         "\"laod\"");
     row("scenario: number for a flag", "{'devices':[{'id':1,'model_name':'A','simulation':{'steady':1}}]}",
         "\"steady\"");
+    row("scenario: number for a text",
+        "{'devices':[{'id':1,'model_name':'A','simulation':{'values':{'run_time':5}}}]}", "no text");
 }
 
 void StoreTest::badFileIsNamedAndLeft()
