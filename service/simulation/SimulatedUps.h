@@ -20,6 +20,7 @@ public:
     [[nodiscard]] DeviceState state() const override;
     [[nodiscard]] DeviceStatus status() const override;
     [[nodiscard]] bool isOnBattery() const override { return m_mode == WorkMode::Battery; }
+    [[nodiscard]] WorkMode mode() const { return m_mode; }
     [[nodiscard]] UpsReadings readings() const;
 
 protected:

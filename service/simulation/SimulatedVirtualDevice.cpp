@@ -53,9 +53,8 @@ WorkMode SimulatedVirtualDevice::mode() const
 {
     WorkMode worst = WorkMode::Mains;
     for (const SimulatedUps* unit : m_units) {
-        const WorkMode unitMode = unit->readings().mode;
-        if (gravity(unitMode) > gravity(worst))
-            worst = unitMode;
+        if (gravity(unit->mode()) > gravity(worst))
+            worst = unit->mode();
     }
     return worst;
 }
