@@ -15,7 +15,7 @@ enum class WorkMode {
     Bypass,
     Eco,
     Converter,
-    Standby,    ///< switched off on request, mains present
+    Standby,    ///< switched off on request
     Discharged, ///< off because mains failed for longer than the battery lasts
 };
 
