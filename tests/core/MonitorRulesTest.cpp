@@ -3,9 +3,7 @@
 #include "monitor/core/DeviceMessages.h"
 #include "monitor/core/DeviceStateView.h"
 #include "monitor/core/EventCodes.h"
-#include "monitor/core/IndicatorNames.h"
 #include "monitor/core/ShutdownTimersData.h"
-#include "monitor/core/StatusStripView.h"
 
 #include <QTest>
 
@@ -20,18 +18,6 @@ QString messageBlocks(const QString& codes)
 {
     const DeviceMessageBlocks blocks = deviceMessageBlocks(codes.split(QLatin1Char(' '), Qt::SkipEmptyParts));
     return blocks.alarms + QLatin1Char('\n') + blocks.warningsHtml + QLatin1Char('\n') + blocks.noticesHtml;
-}
-
-QString historyLines(const QString& events)
-{
-    return formatEventHistory(events).join(QLatin1Char('\n'));
-}
-
-// The picture for "status" or, of a unit that leads, "status*".
-QString indicator(const QString& status)
-{
-    const std::string name = QString(status).remove(QLatin1Char('*')).toStdString();
-    return indicatorPath(name, status.endsWith(QLatin1Char('*'))).section(QLatin1Char('/'), -1);
 }
 
 /// Of a report of "model;key=value;key=value".
@@ -65,13 +51,6 @@ QString bars(const QString& given)
                  : bar.action == BarView::ShowDefault ? QStringLiteral("default")
                                                       : QStringLiteral("keep");
     return texts.join(QLatin1Char(' '));
-}
-
-QString nameText(const QString& given)
-{
-    const DeviceStateView view = goodViewOf(given);
-    return view.nameAndLocation.value_or(QString()) +
-           QLatin1String(view.nameAndLocationVisible ? "" : " (hidden)");
 }
 
 // Active and apparent power, autonomy, temperature, work mode.
@@ -112,8 +91,6 @@ private slots:
     void rules_data();
     void rules();
     void everyNumericCodeHasAText();
-    void stripTellsOfTheServiceFirst();
-    void equalityFollowsWhatIsShown();
 };
 
 void MonitorRulesTest::rules_data()
@@ -129,9 +106,7 @@ void MonitorRulesTest::rules_data()
     row("the second band has its own mark", message, "131", "!* Niski poziom paliwa - Wrn");
     row("the second band leaves a code unmarked", message, "132", "Niski poziom paliwa - Sd");
     row("the third band ends", message, "186", "* Serwis - Wrn");
-    row("the last code", message, "208", "Ładowarka - za wysokie napięcie");
     row("lost communication is a message of its own", message, "no_communication", "Brak komunikacji");
-    row("a work mode among the messages", message, "on_power_line", "Tryb pracy - Sieciowy");
     row("a code beyond the table", message, "300", "Tryb pracy - 300");
     row("a code with a leading zero", message, "07", "Tryb pracy - 07");
     row("codes of one text can be of two classes", messageBlocks, "83 84 7 12",
@@ -142,11 +117,6 @@ void MonitorRulesTest::rules_data()
     row("a leading zero of an event does not count", eventCodeName, "07", "Tryb pracy - Rezerwowa");
     row("a gap in the numbering of events has no name", eventCodeName, "17", "----");
     row("the last event", eventCodeName, "79", "Dynamiczna kompensacja mocy biernej aktywna: Stop");
-    row("a record with a field too many is dropped", historyLines, "2;3;4;5;6;7;8", "");
-    row("empty fields do not count", historyLines, "2;;3;4;5;6;7;",
-        "03-04 05:06:07 - Tryb pracy - Inicjalizacja");
-    row("a genset that leads is orange though it runs", indicator, "genset_on*", "orange_m.png");
-    row("an unknown status is orange", indicator, "Unknown", "orange.png");
 
     row("two entries are too few, but enable the extended information", outcome,
         ";isUpsFound=1;output_load=1", "failed extended");
@@ -160,14 +130,16 @@ void MonitorRulesTest::rules_data()
     row("without a load all bars go to their default", bars, "", "default default default default");
     row("empty phases do not count", bars, ";output_load=/10//20/30/", "10 20 30 default");
     row("two phases are no number", bars, ";output_load=10/20", "0 keep keep default");
+    const Rule load = [](const QString& given) {
+        return goodViewOf(given).report.value(QStringLiteral("output_load"));
+    };
+    row("the load goes on without blanks", load, ";output_load=10 / 20/30", "10/20/30");
     row("a broken phase reads as 0", bars, ";output_load=10 / x/130", "10 0 130 default");
     row("a battery goes before fuel, also with a broken value", bars,
         ";output_load=1;fuel_level=60;battery_capacity=?", "1 keep keep 0");
 
     row("a large device in thousands, cut off, a broken power 0", fields,
         "tarvex33_USB;nominal_active_power=x;nominal_spurious_power=19999", "0 kW;19 kVA;-;-;n/a");
-    row("other powers as they come", fields, ";nominal_active_power=x;nominal_spurious_power=1000",
-        "x W;1000 VA;-;-;n/a");
     row("serial number, consumption and run time give way", fields,
         "Borel_SNMP;serial_number=A;nominal_active_power=5;tot_fuel_consum=7;autonomy_time=12;run_time=3;"
         "temperature=31",
@@ -176,11 +148,6 @@ void MonitorRulesTest::rules_data()
         ";radiator_temperature=40;battery_temperature=25;run_time=3", "-;-;-;40 / 25 °C;n/a");
     row("one of them alone does not count", fields, ";radiator_temperature=40;run_time=3", "-;-;-;3 h;n/a");
     row("an unknown work mode as received", fields, ";device_status=On_Battery", "-;-;-;-;On_Battery");
-    row("name and location are trimmed", nameText, ";snmp_sys_name= UPS 1 ;snmp_sys_location=Hall",
-        "UPS 1 - Hall");
-    row("a location alone", nameText, ";snmp_sys_location=Hall", "<nieokreślona nazwa> - Hall");
-    row("both blank are set, hidden", nameText,
-        ";snmp_sys_name= ;snmp_sys_location=", "<nieokreślona nazwa> - <nieokreślona lokalizacja> (hidden)");
 
     row("an empty announcement cancels", countdown, "", "cancel 49");
     row("a known timer is not shortened", countdown, "2=10 3=60", "start 49");
@@ -201,26 +168,6 @@ void MonitorRulesTest::everyNumericCodeHasAText()
         const QString text = Utils::decodeMessages(QString::number(code));
         QVERIFY2(!text.startsWith(QLatin1String("Tryb pracy - ")), qPrintable(text));
     }
-}
-
-void MonitorRulesTest::stripTellsOfTheServiceFirst()
-{
-    using State = VLStatusConnectionState;
-    const auto note = [](State state) { return serviceStatusView(state, {}, QStringLiteral("2.5.1b")).note; };
-    QCOMPARE(note(State::Connected), QStringLiteral("Niezgodna wersja usługi (v. 2.5.1b)"));
-    QCOMPARE(note(State::Connecting), QString());
-    QVERIFY(shownDeviceState(State::Connecting, State::Connected) == State::Connecting);
-    QVERIFY(shownDeviceState(State::Initial, State::Disconnected) == State::Initial);
-    QCOMPARE(shownPowerOffSeconds(State::Connecting, 30), 0);
-}
-
-void MonitorRulesTest::equalityFollowsWhatIsShown()
-{
-    const DeviceStateView view = goodViewOf(QStringLiteral(";output_load=10/20/30;messages=5\n\n61\n"));
-    QCOMPARE(view.messages->join(QLatin1Char(' ')), QStringLiteral("5 61"));
-    QVERIFY(view == goodViewOf(QStringLiteral(";output_load=10 / 20 / 30;messages=5\n\n61\n")));
-    QVERIFY(!(view == goodViewOf(QStringLiteral(";output_load=10/20/31;messages=5\n\n61\n"))));
-    QVERIFY(!(goodViewOf({}) == goodViewOf(QStringLiteral(";messages="))));
 }
 
 QTEST_GUILESS_MAIN(MonitorRulesTest)

@@ -83,16 +83,6 @@ QString layout(const QString& devices)
     return outline(deviceTreeLayout(devicesOf(devices)));
 }
 
-// Row and child that become current, one step behind the other; the id that was current stands first.
-QString selection(const QString& given)
-{
-    QString steps;
-    const auto rows = deviceTreeLayout(devicesOf(given.section(QLatin1Char(' '), 1)));
-    for (const auto& step : deviceSelectionSteps(rows, given.section(QLatin1Char(' '), 0, 0)))
-        steps += QStringLiteral("%1/%2 ").arg(step.top).arg(step.child);
-    return steps.trimmed();
-}
-
 // Of models: present, added, replaced.
 QString registration(const QString& models)
 {
@@ -202,9 +192,6 @@ void DeviceRulesTest::rules_data()
     row("unit ids are compared as text", layout, "9=02 2", "9 2");
     row("taken ids are compared as numbers", layout, "9=2 2 02", "9(2)");
     row("a virtual device in another one stands at the top as well", layout, "8= 9=8", "8 9(8)");
-    row("current ids are compared as numbers", selection, "02 1 2", "1/-1");
-    row("a later top-level row takes over from a child and ends the search", selection, "1 8=1 1= 9=1 1",
-        "0/0 1/-1");
 
     row("a second one of a shared class", registration, "LumoLCD_USB Quenta_USB", "no");
     row("a change within the class", registration, "Quenta_USB LumoLCD_USB Quenta_USB", "yes");

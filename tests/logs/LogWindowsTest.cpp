@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Velmora developers
 // SPDX-License-Identifier: MIT
-#include "link/TextHelpers.h"
 #include "logs/LoggingConfigurationWindow.h"
 #include "logs/UpsLogsWindow.h"
-#include "monitor/WindowFixture.h"
+#include "monitor/ServiceRun.h"
 #include "support/ModalDriver.h"
 
 #include <QAbstractItemModelTester>
@@ -44,16 +43,13 @@ void LogWindowsTest::logsAreSetAndReadBackAndForth()
 {
     WindowFixture panel;
     QProcess service;
-    service.start(QStringLiteral(VELMORA_SERVICE_PROGRAM),
-                  {QStringLiteral("--listen"), ScriptedService::testAddress(), QStringLiteral("--speed=50")});
-    QVERIFY(service.waitForStarted() && service.waitForReadyRead());
-    panel.window = std::make_unique<VelmoraWindow>();
+    QVERIFY(startService(service, {QStringLiteral("--speed=50")}));
     // Three phases and power compensation; all three logs are written every 15 seconds.
     const QString name = QStringLiteral("Production hall");
-    QTRY_VERIFY(panel.row(name) && panel.row(name)->ups.power_compensation);
+    QVERIFY(openOnService(panel, name));
+    QCOMPARE(logIn(panel), QStringList());
     panel.tree()->setCurrentItem(panel.row(name));
-    panel.link()->setAdminPass(Velmora::Utils::makeMd5(QStringLiteral("Opiekunsystem")));
-    panel.window->enableAdministratorButtons();
+    QTRY_VERIFY(panel.row(name)->ups.power_compensation);
     QVERIFY(
         drive<LoggingConfigurationWindow>(*panel.window, configure, [](LoggingConfigurationWindow& dialog) {
             dialog.findChild<QSpinBox*>(QStringLiteral("intervalSpinBox"))->setValue(7);
@@ -99,8 +95,7 @@ void LogWindowsTest::logsAreSetAndReadBackAndForth()
                               {QStringLiteral("type"), QStringLiteral("parameters")}});
     QVERIFY(pages.wait());
     QVERIFY(QTime::fromString(pages.first().first().toStringList().last().section(u';', 1, 1)) >= newest);
-    service.terminate();
-    QVERIFY(service.waitForFinished());
+    QVERIFY(stopService(service));
 }
 
 QTEST_MAIN(LogWindowsTest)

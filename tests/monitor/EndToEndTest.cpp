@@ -103,7 +103,8 @@ void EndToEndTest::everyValueAndTheHistoryCanBeRead()
     QTRY_VERIFY(panel.rowShows(panel.row(QStringLiteral("Magazyn Łódź")), "red"));
 
     readAll(panel, "Backup genset", {{"autonomyTimeEdit", "[\\d.]+ l"}, {"upsEventsButton", "-"}},
-            {"Napięcie fazowe w sieci elektrycznej: [\\d./]+ V", "Numer seryjny sterownika: 15037421 ",
+            {"Napięcie fazowe w sieci elektrycznej: [\\d./]+ V",
+             "Częstotliwość w sieci elektrycznej: [\\d.]+ Hz", "Numer seryjny sterownika: 15037421 ",
              "Poziom paliwa: \\d+ %"});
     readAll(panel, "Production hall",
             {{"loadProgressBar_3", "\\d+ % \\[\\d+\\]"}, {"nominalActivePowerEdit", "\\d+ kW"}},

@@ -40,7 +40,7 @@ private slots:
     void cleanup() { panel.reset(); }
     void dialogsOutliveTheLink_data();
     void dialogsOutliveTheLink();
-    void informationFollowsTheReports();
+    void informationIsOfTheSelectedDevice();
     void serviceSettingsAreSavedWhole();
     void settingReachesNoOtherDevice();
 
@@ -116,18 +116,8 @@ void WindowDialogsTest::dialogsOutliveTheLink()
     QCOMPARE(panel->service.requests().constLast().xml, QByteArray("<settle><pass></pass></settle>"));
 }
 
-void WindowDialogsTest::informationFollowsTheReports()
+void WindowDialogsTest::informationIsOfTheSelectedDevice()
 {
-    QVERIFY(driveModal<ExtendInformationWindow>(
-        [this] { open("exInfoButton"); },
-        [this](const ExtendInformationWindow& dialog) {
-            const auto* value = dialog.findChild<QLineEdit*>();
-            QCOMPARE(value->text(), QStringLiteral("230 V"));
-            QVERIFY(panel->send(report("231")));
-            QCOMPARE(value->text(), QStringLiteral("231 V"));
-            QVERIFY(panel->send(stateReport("<input_voltage>0</input_voltage>", false)));
-            QVERIFY2(value->text() == QLatin1String("231 V"), "a report that failed leaves the values");
-        }));
     QVERIFY(panel->send(report("232", "3;3;4;5;7;0|2;3;4;5;6;7|")));
     QVERIFY(driveModal<UpsEventsWindow>([this] { open("upsEventsButton"); },
                                         [this](const UpsEventsWindow& dialog) {

