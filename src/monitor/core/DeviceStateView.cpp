@@ -9,8 +9,6 @@
 #include <QCoreApplication>
 #include <QLatin1String>
 
-#include <tuple>
-
 namespace Velmora {
 namespace {
 
@@ -126,32 +124,7 @@ void readFields(DeviceStateView& view, const Report& report, const QString& conf
     view.temperature = temperatureField(report);
 }
 
-/// All fields of a bar, to compare views by.
-auto fieldsOf(const BarView& bar)
-{
-    return std::tie(bar.action, bar.value);
-}
-
-/// All fields of a view, to compare views by.
-auto fieldsOf(const DeviceStateView& view)
-{
-    return std::tie(view.extendedInformationAvailable, view.failed, view.load, view.batteryState,
-                    view.workMode, view.nominalActivePower, view.nominalSpuriousPower, view.autonomyTime,
-                    view.firmware, view.temperature, view.nameAndLocation, view.nameAndLocationVisible,
-                    view.messages, view.events, view.report);
-}
-
 } // namespace
-
-bool operator==(const BarView& left, const BarView& right)
-{
-    return fieldsOf(left) == fieldsOf(right);
-}
-
-bool operator==(const DeviceStateView& left, const DeviceStateView& right)
-{
-    return fieldsOf(left) == fieldsOf(right);
-}
 
 DeviceStateView deviceStateView(const QMap<QString, QString>& report, const QString& configName,
                                 const QString& notAvailableText)

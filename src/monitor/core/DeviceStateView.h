@@ -24,13 +24,10 @@ struct BarView
     int value = 0; ///< percent as reported, possibly outside 0 to 100
 };
 
-[[nodiscard]] bool operator==(const BarView& left, const BarView& right);
-
 /// Text of a value field; none: the field's default, "not available" with the help button.
 using FieldView = std::optional<QString>;
 
-/// What one state report makes the state panel show. Reports of a standing device are equal, so a caller can
-/// leave alone what did not change.
+/// What one state report makes the state panel show.
 struct DeviceStateView
 {
     /// Whether the extended information can be opened; holds for a failed report too.
@@ -53,12 +50,6 @@ struct DeviceStateView
     QString events;                ///< event history as received
     QMap<QString, QString> report; ///< the report itself, its load freed of blanks
 };
-
-[[nodiscard]] bool operator==(const DeviceStateView& left, const DeviceStateView& right);
-[[nodiscard]] inline bool operator!=(const DeviceStateView& left, const DeviceStateView& right)
-{
-    return !(left == right);
-}
 
 /// Reads a state report of the device with this config name. `notAvailableText` stands in for a missing work
 /// mode.
