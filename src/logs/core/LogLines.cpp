@@ -94,9 +94,7 @@ ParametersHeader readParametersHeader(const QString& line)
 
 QStringList parametersFields(const QString& line, const ParametersHeader& header)
 {
-    QStringList fields = line.split(fieldSeparator);
-    while (fields.size() > header.columns)
-        fields.removeLast();
+    QStringList fields = line.split(fieldSeparator).mid(0, header.columns);
     if (header.workModeColumn >= 0 && header.workModeColumn < fields.size())
         fields[header.workModeColumn] = Utils::decodeWorkMode(fields.at(header.workModeColumn));
     return fields;
