@@ -38,6 +38,9 @@ void RequestDispatcher::handle(ClientSession& session, const QString& text) cons
         qCWarning(serviceLog).noquote()
             << "refused" << entry->name << "of" << session.peer() % QLatin1Char(':')
             << "it does not carry the administrator password";
+        // Another panel may have changed it, or administrator mode ended while a dialog stood open.
+        session.send(messagesReply({QStringLiteral("Nothing was changed: a change needs the administrator "
+                                                   "password.")}));
         return;
     }
     qCDebug(serviceLog).noquote() << entry->name << "from" << session.peer();
