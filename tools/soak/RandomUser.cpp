@@ -139,7 +139,15 @@ void RandomUser::clickOne(const QWidget* dialog)
     const QList<QAbstractButton*> buttons = usable<QAbstractButton>(dialog);
     if (buttons.isEmpty())
         return;
+    // Of two the one that was clicked less: what is rarely enabled gets its turn.
+    const auto clicks = [this, dialog](const QAbstractButton* button) -> int& {
+        return m_clicks[QLatin1String(dialog->metaObject()->className()) + button->objectName()];
+    };
     QAbstractButton* button = buttons.at(below(buttons.size()));
+    QAbstractButton* other = buttons.at(below(buttons.size()));
+    if (clicks(other) < clicks(button))
+        button = other;
+    ++clicks(button);
     const bool leaves = button->parent() == dialog->findChild<QDialogButtonBox*>();
     if (!leaves || qobject_cast<const QMessageBox*>(dialog) || below(hesitation) == 0)
         QMetaObject::invokeMethod(button, &QAbstractButton::click, Qt::QueuedConnection);

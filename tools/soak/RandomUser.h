@@ -41,4 +41,5 @@ private:
     QWidget* m_window;
     QRandomGenerator m_random;
     QMap<QString, int> m_opened;
+    QMap<QString, int> m_clicks; ///< by class of the dialog and name of the button
 };
