@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
 
 namespace Velmora::Service {
 
@@ -210,7 +211,8 @@ std::optional<DeviceRegistration> registrationFromJson(const QJsonObject& object
     const QJsonArray members = object.value(QLatin1String("phy_ids")).toArray();
     for (const QJsonValue& member : members)
         device.physicalIds.append(member.toInt());
-    if (device.id < 0 || device.modelName.isEmpty())
+    // Above the highest id there would be none for the next device.
+    if (device.id < 0 || device.id == std::numeric_limits<int>::max() || device.modelName.isEmpty())
         return std::nullopt;
     return device;
 }

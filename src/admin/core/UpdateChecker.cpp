@@ -84,6 +84,8 @@ void UpdateChecker::descriptorVersionIsReady(QNetworkReply* reply)
         return;
     const QByteArray body = reply->readAll();
     QXmlStreamReader reader(QString::fromUtf8(body.constData()));
+    // What comes from the network cannot make itself longer: a few bytes could stand for gigabytes.
+    reader.setEntityExpansionLimit(0);
     while (!reader.atEnd()) {
         if (!reader.readNextStartElement() || reader.name() != QLatin1String("versionNumber"))
             continue;
