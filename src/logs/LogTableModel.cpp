@@ -39,7 +39,7 @@ void LogTableModel::setItem(int row, int column, QStandardItem* item)
     if (items.size() <= place)
         items.resize(place + 1);
     items[place].reset(item);
-    const QModelIndex changed = index(row, column);
+    const QModelIndex changed = createIndex(row, column);
     emit dataChanged(changed, changed);
 }
 

@@ -22,7 +22,8 @@ namespace {
 template <typename Model>
 void fillRow(Model& model, TableFit& fit, int row, const QStringList& fields)
 {
-    for (int column = 0; column < fields.size(); ++column) {
+    // From the last one, so that a row is made in its full length at once.
+    for (int column = fields.size() - 1; column >= 0; --column) {
         model.setItem(row, column, new QStandardItem(fields.at(column)));
         fit.add(row, column, fields.at(column));
     }

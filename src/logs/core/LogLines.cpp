@@ -94,7 +94,13 @@ ParametersHeader readParametersHeader(const QString& line)
 
 QStringList parametersFields(const QString& line, const ParametersHeader& header)
 {
-    QStringList fields = line.split(fieldSeparator).mid(0, header.columns);
+    QStringList fields;
+    fields.reserve(qMin(header.columns, line.count(fieldSeparator) + 1));
+    for (int begin = 0; begin <= line.size() && fields.size() < header.columns;) {
+        const int end = line.indexOf(fieldSeparator, begin);
+        fields.append(line.mid(begin, (end < 0 ? line.size() : end) - begin));
+        begin = (end < 0 ? line.size() : end) + 1;
+    }
     if (header.workModeColumn >= 0 && header.workModeColumn < fields.size())
         fields[header.workModeColumn] = Utils::decodeWorkMode(fields.at(header.workModeColumn));
     return fields;
