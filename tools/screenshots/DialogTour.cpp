@@ -101,8 +101,8 @@ constexpr Station administratorStations[] = {
     {"mail-settings-wrong", "mail settings that are incomplete", nullptr, "aplicationConfigurationButton",
      "smtpSenderAddressEdit=ups smtpTestButton"},
     {"mail-test", "a test mail that failed", nullptr,
-     "aplicationConfigurationButton\nsmtpServerEdit=127.0.0.1 smtpSenderAddressEdit=ups@example.com "
-     "smtpTestButton",
+     "aplicationConfigurationButton\nsmtpServerEdit=127.0.0.1 smtpPortEdit=25 smtpTimeoutEdit=30 "
+     "smtpSenderAddressEdit=ups@example.com smtpTestButton",
      "messagesEdit?"},
     {"folder-choice", "the choice of a folder", nullptr, "aplicationConfigurationButton\nopenDirButton", ""},
     {"new-virtual-device", "a new virtual device", nullptr,
