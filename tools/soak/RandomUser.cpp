@@ -18,6 +18,8 @@
 #include <QMessageBox>
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace {
 
 constexpr char seenProperty[] = "seenByTheSoak";
@@ -139,14 +141,16 @@ void RandomUser::clickOne(const QWidget* dialog)
     const QList<QAbstractButton*> buttons = usable<QAbstractButton>(dialog);
     if (buttons.isEmpty())
         return;
-    // Of two the one that was clicked less: what is rarely enabled gets its turn.
     const auto clicks = [this, dialog](const QAbstractButton* button) -> int& {
         return m_clicks[QLatin1String(dialog->metaObject()->className()) + button->objectName()];
     };
     QAbstractButton* button = buttons.at(below(buttons.size()));
-    QAbstractButton* other = buttons.at(below(buttons.size()));
-    if (clicks(other) < clicks(button))
-        button = other;
+    // Half the time the one that was clicked least: what is rarely enabled gets its turn.
+    if (below(2) == 0)
+        button =
+            *std::min_element(buttons.begin(), buttons.end(), [&clicks](const auto* left, const auto* right) {
+                return clicks(left) < clicks(right);
+            });
     ++clicks(button);
     const bool leaves = button->parent() == dialog->findChild<QDialogButtonBox*>();
     if (!leaves || qobject_cast<const QMessageBox*>(dialog) || below(hesitation) == 0)
@@ -183,6 +187,11 @@ void RandomUser::typeOne(const QWidget* dialog)
     static const QStringList texts{QString(), QStringLiteral("60"), QStringLiteral("127.0.0.1"),
                                    QStringLiteral("a@b.test"), QStringLiteral("ŁADOWANIE  ON (")};
     const QList<QLineEdit*> fields = usable<QLineEdit>(dialog);
-    if (!fields.isEmpty())
-        fields.at(below(fields.size()))->setText(texts.at(below(texts.size())));
+    if (fields.isEmpty())
+        return;
+    QLineEdit* field = fields.at(below(fields.size()));
+    field->setText(texts.at(below(texts.size())));
+    // Half the time what the field accepts: forms of many fields would never be right as a whole.
+    for (int tries = below(2) * 20; tries > 0 && !field->hasAcceptableInput(); --tries)
+        field->setText(texts.at(below(texts.size())));
 }
