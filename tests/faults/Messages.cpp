@@ -35,8 +35,7 @@ const QVector<QByteArray> unasked{
     "<admin_password_changed></admin_password_changed>",
     "<netclient_password_changed></netclient_password_changed>",
     "<show_message><message>Error</message><message>żółw</message></show_message>",
-    "<show_countdown><timer_id>2</timer_id><time>90</time><timer_id>3</timer_id><time>60</time>"
-    "</show_countdown>",
+    "<show_countdown><timer_id>2</timer_id><time>90</time></show_countdown>",
     "<smtp2_test_status><current_status>1</current_status><msg_0>a</msg_0></smtp2_test_status>",
 };
 

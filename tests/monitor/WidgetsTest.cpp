@@ -131,7 +131,8 @@ void WidgetsTest::stripTurnsItsSpinnersOnlyWhileConnecting()
         strip.setServiceConnectionState(VLStatusConnectionState::Connecting, {});
         const auto* movie = part<QLabel>(strip, "serviceIcon")->movie();
         const auto* deviceMovie = part<QLabel>(strip, "deviceIcon")->movie();
-        QVERIFY(movie && deviceMovie && movie != deviceMovie);
+        if (!movie || !deviceMovie || movie == deviceMovie)
+            QFAIL("each icon turns a spinner of its own");
         QVERIFY(movie->state() == QMovie::Running && deviceMovie->state() == QMovie::Running);
         strip.setServiceConnectionState(VLStatusConnectionState::Connected, {});
         QVERIFY(movie->state() == QMovie::NotRunning && deviceMovie->state() == QMovie::NotRunning);

@@ -25,7 +25,7 @@ ExpectedQuestion ScriptedPrompts::take(const Question& question)
         QTest::qFail(qPrintable(failure), __FILE__, __LINE__);
         return {QString(), QMessageBox::NoButton, false, {}};
     }
-    const ExpectedQuestion expected = m_expected.takeFirst();
+    ExpectedQuestion expected = m_expected.takeFirst();
     if (expected.whileStanding)
         expected.whileStanding();
     return expected;
