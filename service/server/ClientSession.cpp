@@ -61,6 +61,11 @@ ClientSession::~ClientSession()
     m_socket->disconnect(this);
 }
 
+int ClientSession::silentMilliseconds() const
+{
+    return idleMilliseconds - m_idleTimer.remainingTime();
+}
+
 void ClientSession::send(const QByteArray& document)
 {
     const QByteArray frame = encodeFrame(document);

@@ -40,6 +40,9 @@ public:
     /// Address and port, for the log.
     [[nodiscard]] QString peer() const { return m_peer; }
 
+    /// Time since the last request, or since the connection without one.
+    [[nodiscard]] int silentMilliseconds() const;
+
     /// Sends one document as one frame in one write. Ends the connection of a panel that does not read.
     void send(const QByteArray& document);
     void sendFrame(const QByteArray& frame);

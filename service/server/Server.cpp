@@ -9,11 +9,15 @@
 #include <QNetworkProxy>
 #include <QTcpSocket>
 
+#include <algorithm>
+
 namespace Velmora::Service {
 
 namespace {
 
 constexpr int maximumConnections = 64;
+// A panel polls every second; who is silent for longer may have to make room.
+constexpr int placeKeptMilliseconds = 5000;
 
 } // namespace
 
@@ -48,7 +52,7 @@ bool Server::listen(const QHostAddress& address, QString& reason)
 void Server::acceptConnections()
 {
     while (QTcpSocket* socket = m_tcp.nextPendingConnection()) {
-        if (m_sessions.size() < maximumConnections) {
+        if (m_sessions.size() < maximumConnections || makeRoom()) {
             addSession(socket);
             continue;
         }
@@ -57,6 +61,18 @@ void Server::acceptConnections()
         socket->abort();
         socket->deleteLater();
     }
+}
+
+bool Server::makeRoom()
+{
+    ClientSession* const quietest = *std::max_element(
+        m_sessions.cbegin(), m_sessions.cend(), [](const ClientSession* left, const ClientSession* right) {
+            return left->silentMilliseconds() < right->silentMilliseconds();
+        });
+    if (quietest->silentMilliseconds() < placeKeptMilliseconds)
+        return false;
+    quietest->close(QStringLiteral("it was silent and another needs the place"));
+    return true;
 }
 
 void Server::addSession(QTcpSocket* socket)

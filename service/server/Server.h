@@ -25,6 +25,8 @@ public:
 
 private:
     void acceptConnections();
+    /// Ends the connection that has been silent for longest; false if all of them are in use.
+    [[nodiscard]] bool makeRoom();
     void addSession(QTcpSocket* socket);
     void broadcast(const QByteArray& document);
 
