@@ -235,9 +235,8 @@ void ApplicationConfigurationWindow::addUpsButtonClickHandler()
     dialog->setUpsName(QString());
     dialog->setSocketController(m_controller);
     dialog->setAllUpsList(m_devices);
-    QPointer<AddUpsWindow> member;
     // The base's acceptance: this dialog's own would send its settings.
-    Velmora::runModal(member, dialog, [this](AddUpsWindow& /*accepted*/) { QDialog::accept(); });
+    Velmora::runModal(dialog, [this](AddUpsWindow& /*accepted*/) { QDialog::accept(); });
 }
 
 void ApplicationConfigurationWindow::addVirtualUpsButtonClickHandler()
@@ -247,8 +246,7 @@ void ApplicationConfigurationWindow::addVirtualUpsButtonClickHandler()
     dialog->setSocketController(m_controller);
     dialog->setPhyDevIncludedIntoAllVirtuals(m_members);
     dialog->displayAvailableParallelDevices(m_devices);
-    QPointer<AddVirtualUpsWindow> member;
-    Velmora::runModal(member, dialog, [this](AddVirtualUpsWindow& /*accepted*/) { QDialog::accept(); });
+    Velmora::runModal(dialog, [this](AddVirtualUpsWindow& /*accepted*/) { QDialog::accept(); });
 }
 
 void ApplicationConfigurationWindow::sendTestMailButtonClickHandler()

@@ -37,8 +37,7 @@ ActionType& made(std::shared_ptr<ActionType>& slot)
 template <typename Dialog, typename Store>
 void runForEvent(Velmora::PolicyModel& model, Dialog* dialog, Store store)
 {
-    QPointer<Dialog> member;
-    runModal(member, dialog, [&](const Dialog& accepted) {
+    runModal(dialog, [&](const Dialog& accepted) {
         if (Event* event = model.editedEvent())
             store(*event, accepted);
     });
@@ -153,8 +152,7 @@ void NetworkConfigurationWindow::advancedOptionsButtonClickHandler()
     auto* dialog = new AdvancedOptionsWindow(m_model.device(), expressions, &knownEvents, this);
     dialog->setEditMode(!m_model.isNewEvent());
     QStringList accepted;
-    QPointer<AdvancedOptionsWindow> member;
-    runModal(member, dialog,
+    runModal(dialog,
              [&accepted](const AdvancedOptionsWindow& window) { accepted = window.getExpressions(); });
     if (accepted.size() != 3 || !m_model.isEditing())
         return;

@@ -210,8 +210,7 @@ bool NetworkConfigurationWindow::editGroup(Group& group)
     dialog->setGroups(&m_model.groups());
     dialog->setGroup(&group);
     bool accepted = false;
-    QPointer<GroupConfigurationWindow> member;
-    Velmora::runModal(member, dialog, [&](const GroupConfigurationWindow& window) {
+    Velmora::runModal(dialog, [&](const GroupConfigurationWindow& window) {
         accepted = true;
         group.name = window.getGroupName();
     });

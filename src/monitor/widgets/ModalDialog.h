@@ -34,11 +34,17 @@ void runModal(QPointer<Dialog>& member, Dialog* dialog)
 }
 
 /// For a dialog that nothing is handed on to while it runs.
+template <typename Dialog, typename WhenAccepted>
+void runModal(Dialog* dialog, WhenAccepted whenAccepted)
+{
+    QPointer<Dialog> member;
+    runModal(member, dialog, whenAccepted);
+}
+
 template <typename Dialog>
 void runModal(Dialog* dialog)
 {
-    QPointer<Dialog> member;
-    runModal(member, dialog);
+    runModal(dialog, [](Dialog&) {});
 }
 
 } // namespace Velmora
